@@ -1,0 +1,47 @@
+#include "base/atomic_write.h"
+
+#include <cerrno>
+#include <cstdio>
+#include <memory>
+#include <system_error>
+
+#include "base/error.h"
+#include "base/record_files.h"
+
+namespace quinteva::base {
+
+std::filesystem::path RutaTemporalJunto(const std::filesystem::path& ruta) {
+    auto temporal = ruta;
+    temporal += ".nuevo";
+    return temporal;
+}
+
+void Reemplazar(const std::filesystem::path& temporal, const std::filesystem::path& destino) {
+    std::error_code error;
+    std::filesystem::rename(temporal, destino, error);
+    if (error) {
+        std::filesystem::remove(temporal, error);
+        throw Error("No se pudo reemplazar el archivo " + destino.string());
+    }
+}
+
+void EscribirAtomico(const std::filesystem::path& ruta, std::string_view contenido) {
+    const auto temporal = RutaTemporalJunto(ruta);
+    {
+        std::unique_ptr<std::FILE, int (*)(std::FILE*)> f(std::fopen(temporal.c_str(), "wb"),
+                                                          &std::fclose);
+        if (!f) FalloDeArchivo(temporal);
+        const bool escrito =
+            std::fwrite(contenido.data(), 1, contenido.size(), f.get()) == contenido.size();
+        if (!escrito || std::fclose(f.release()) != 0) {
+            const int causa = errno;
+            std::error_code ignorado;
+            std::filesystem::remove(temporal, ignorado);
+            errno = causa;
+            FalloDeArchivo(temporal);
+        }
+    }
+    Reemplazar(temporal, ruta);
+}
+
+}  // namespace quinteva::base

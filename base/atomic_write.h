@@ -1,0 +1,18 @@
+#pragma once
+
+#include <filesystem>
+#include <string_view>
+
+namespace quinteva::base {
+
+// Escribe el archivo entero en uno temporal a su lado y lo renombra encima: si algo falla a
+// mitad (disco lleno, corte), el archivo anterior del usuario sigue intacto.
+void EscribirAtomico(const std::filesystem::path& ruta, std::string_view contenido);
+
+// Ruta temporal al lado de la ruta dada, para quien escribe por su cuenta y renombra después.
+std::filesystem::path RutaTemporalJunto(const std::filesystem::path& ruta);
+
+// Renombra el temporal sobre el destino; lanza Error si no se pudo.
+void Reemplazar(const std::filesystem::path& temporal, const std::filesystem::path& destino);
+
+}  // namespace quinteva::base

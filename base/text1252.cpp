@@ -1,0 +1,99 @@
+#include "base/text1252.h"
+
+#include <array>
+#include <cstdint>
+#include <optional>
+
+namespace quinteva::base {
+namespace {
+
+// Los puntos de código de 0x80 a 0x9F; los cinco huecos de la página se tratan como los controles
+// C1 del mismo número, igual que hace el sistema, para que la ida y vuelta no pierda nada.
+constexpr std::array<char32_t, 32> kAltos = {
+    0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
+    0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
+    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
+
+char ByteDe(char32_t cp) {
+    if (cp < 0x80 || (cp >= 0xA0 && cp <= 0xFF)) return static_cast<char>(cp);
+    for (std::size_t i = 0; i < kAltos.size(); ++i) {
+        if (kAltos[i] == cp) return static_cast<char>(0x80 + i);
+    }
+    return '?';
+}
+
+void AnadirUtf8(std::string& salida, char32_t cp) {
+    if (cp < 0x80) {
+        salida += static_cast<char>(cp);
+    } else if (cp < 0x800) {
+        salida += static_cast<char>(0xC0 | (cp >> 6));
+        salida += static_cast<char>(0x80 | (cp & 0x3F));
+    } else {
+        salida += static_cast<char>(0xE0 | (cp >> 12));
+        salida += static_cast<char>(0x80 | ((cp >> 6) & 0x3F));
+        salida += static_cast<char>(0x80 | (cp & 0x3F));
+    }
+}
+
+// Lee un carácter UTF-8 desde la posición i y la avanza; una secuencia mal formada da nullopt y
+// avanza un byte.
+std::optional<char32_t> LeerUtf8(std::string_view s, std::size_t& i) {
+    const auto b0 = static_cast<std::uint8_t>(s[i++]);
+    if (b0 < 0x80) return b0;
+    int resto = 0;
+    char32_t cp = 0;
+    if ((b0 & 0xE0) == 0xC0) {
+        resto = 1;
+        cp = b0 & 0x1F;
+    } else if ((b0 & 0xF0) == 0xE0) {
+        resto = 2;
+        cp = b0 & 0x0F;
+    } else if ((b0 & 0xF8) == 0xF0) {
+        resto = 3;
+        cp = b0 & 0x07;
+    } else {
+        return std::nullopt;
+    }
+    for (int k = 0; k < resto; ++k) {
+        if (i >= s.size()) return std::nullopt;
+        const auto b = static_cast<std::uint8_t>(s[i]);
+        if ((b & 0xC0) != 0x80) return std::nullopt;
+        cp = (cp << 6) | (b & 0x3F);
+        ++i;
+    }
+    return cp;
+}
+
+}  // namespace
+
+std::string AWindows1252(std::string_view utf8) {
+    std::string salida;
+    salida.reserve(utf8.size());
+    std::size_t i = 0;
+    while (i < utf8.size()) {
+        const auto cp = LeerUtf8(utf8, i);
+        salida += cp ? ByteDe(*cp) : '?';
+    }
+    return salida;
+}
+
+std::string DeWindows1252(std::string_view bytes) {
+    std::string salida;
+    salida.reserve(bytes.size());
+    for (const char c : bytes) {
+        const auto b = static_cast<std::uint8_t>(c);
+        AnadirUtf8(salida, (b >= 0x80 && b < 0xA0) ? kAltos[b - 0x80] : char32_t{b});
+    }
+    return salida;
+}
+
+std::string_view Recortar(std::string_view texto) {
+    const auto inicio = texto.find_first_not_of(' ');
+    if (inicio == std::string_view::npos) return {};
+    const auto fin = texto.find_last_not_of(' ');
+    return texto.substr(inicio, fin - inicio + 1);
+}
+
+bool MismoTexto(std::string_view a, std::string_view b) { return Recortar(a) == Recortar(b); }
+
+}  // namespace quinteva::base

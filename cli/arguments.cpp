@@ -1,0 +1,43 @@
+#include "cli/arguments.h"
+
+#include "base/working_folder.h"
+
+namespace quinteva::cli {
+
+Argumentos::Argumentos(const std::vector<std::string>& palabras,
+                       const OpcionesAdmitidas& admitidas) {
+    for (std::size_t i = 0; i < palabras.size(); ++i) {
+        const std::string& palabra = palabras[i];
+        if (!palabra.starts_with("--")) {
+            posicionales_.push_back(palabra);
+            continue;
+        }
+        const std::string nombre = palabra.substr(2);
+        if (nombre == "json" || admitidas.marcas.contains(nombre)) {
+            marcas_.insert(nombre);
+        } else if (nombre == "carpeta" || admitidas.conValor.contains(nombre)) {
+            if (i + 1 >= palabras.size()) throw ErrorDeUso{"Falta el valor de " + palabra};
+            valores_[nombre] = palabras[++i];
+        } else {
+            throw ErrorDeUso{"Opción desconocida: " + palabra};
+        }
+    }
+}
+
+std::optional<std::string> Argumentos::Valor(std::string_view opcion) const {
+    const auto v = valores_.find(opcion);
+    if (v == valores_.end()) return std::nullopt;
+    return v->second;
+}
+
+void Argumentos::ExigirPosicionales(std::size_t n, std::string_view uso) const {
+    if (posicionales_.size() != n) throw ErrorDeUso{"Uso: quinteva-cli " + std::string(uso)};
+}
+
+std::filesystem::path Argumentos::CarpetaTrabajo() const {
+    const auto carpeta = Valor("carpeta");
+    return base::ResolverCarpetaTrabajo(carpeta ? std::optional<std::filesystem::path>(*carpeta)
+                                                : std::nullopt);
+}
+
+}  // namespace quinteva::cli

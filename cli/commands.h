@@ -1,0 +1,26 @@
+#pragma once
+
+#include <ostream>
+#include <span>
+#include <string_view>
+
+#include "cli/arguments.h"
+
+namespace quinteva::cli {
+
+// Un subcomando de quinteva-cli: lo que hace, cómo se usa y qué opciones acepta. Devuelve el
+// código de salida; los fallos del sistema salen como base::Error y los de uso como ErrorDeUso.
+struct Subcomando {
+    std::string_view nombre;
+    std::string_view uso;
+    std::string_view descripcion;
+    OpcionesAdmitidas opciones;
+    int (*ejecutar)(const Argumentos& argumentos, std::ostream& salida);
+};
+
+std::span<const Subcomando> Subcomandos();
+
+// Cada subcomando vive en su archivo.
+int Temporada(const Argumentos& argumentos, std::ostream& salida);
+
+}  // namespace quinteva::cli

@@ -1,0 +1,120 @@
+#include "ui/dialog_qt.h"
+
+#include <QFileDialog>
+#include <QInputDialog>
+#include <QMessageBox>
+#include <QStringList>
+
+namespace quinteva::ui {
+namespace {
+
+const QString kTitulo = QStringLiteral("Quinteva");
+
+QString Q(std::string_view texto) {
+    return QString::fromUtf8(texto.data(), static_cast<qsizetype>(texto.size()));
+}
+
+QString Ruta(const std::filesystem::path& ruta) { return QString::fromStdString(ruta.string()); }
+
+// "Descripción (*.ext)|*.ext|Otra (*.x)|*.x|" a los filtros de Qt "Descripción (*.ext);;...".
+QString FiltroQt(std::string_view filtro) {
+    const QStringList partes = Q(filtro).split(QLatin1Char('|'), Qt::SkipEmptyParts);
+    QStringList filtros;
+    for (qsizetype i = 0; i + 1 < partes.size(); i += 2) {
+        filtros << partes[i].section(QLatin1Char('('), 0, 0).trimmed() + QStringLiteral(" (") +
+                       partes[i + 1].split(QLatin1Char(';')).join(QLatin1Char(' ')) +
+                       QLatin1Char(')');
+    }
+    return filtros.join(QStringLiteral(";;"));
+}
+
+std::optional<std::filesystem::path> Elegida(const QString& ruta) {
+    if (ruta.isEmpty()) return std::nullopt;
+    return std::filesystem::path(ruta.toStdString());
+}
+
+base::Respuesta DeBoton(int boton) {
+    switch (boton) {
+        case QMessageBox::Yes:
+            return base::Respuesta::Si;
+        case QMessageBox::No:
+            return base::Respuesta::No;
+        case QMessageBox::Ok:
+            return base::Respuesta::Aceptar;
+        default:
+            return base::Respuesta::Cancelar;
+    }
+}
+
+QMessageBox::StandardButton ABoton(base::Respuesta r) {
+    switch (r) {
+        case base::Respuesta::Si:
+            return QMessageBox::Yes;
+        case base::Respuesta::No:
+            return QMessageBox::No;
+        case base::Respuesta::Aceptar:
+            return QMessageBox::Ok;
+        default:
+            return QMessageBox::Cancel;
+    }
+}
+
+}  // namespace
+
+void DialogoQt::Mensaje(std::string_view texto, base::Icono icono) {
+    switch (icono) {
+        case base::Icono::Aviso:
+            QMessageBox::warning(madre_, kTitulo, Q(texto));
+            break;
+        case base::Icono::Error:
+            QMessageBox::critical(madre_, kTitulo, Q(texto));
+            break;
+        default:
+            QMessageBox::information(madre_, kTitulo, Q(texto));
+    }
+}
+
+base::Respuesta DialogoQt::PreguntaSiNo(std::string_view texto, base::Respuesta porDefecto) {
+    return DeBoton(QMessageBox::question(madre_, kTitulo, Q(texto),
+                                         QMessageBox::Yes | QMessageBox::No, ABoton(porDefecto)));
+}
+
+base::Respuesta DialogoQt::PreguntaSiNoCancelar(std::string_view texto,
+                                                base::Respuesta porDefecto) {
+    return DeBoton(QMessageBox::question(madre_, kTitulo, Q(texto),
+                                         QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel,
+                                         ABoton(porDefecto)));
+}
+
+base::Respuesta DialogoQt::AceptarCancelar(std::string_view texto) {
+    return DeBoton(QMessageBox::question(madre_, kTitulo, Q(texto),
+                                         QMessageBox::Ok | QMessageBox::Cancel, QMessageBox::Ok));
+}
+
+std::optional<std::string> DialogoQt::PedirTexto(std::string_view texto, std::string_view titulo,
+                                                 std::string_view inicial) {
+    bool aceptado = false;
+    const QString valor = QInputDialog::getText(madre_, Q(titulo), Q(texto), QLineEdit::Normal,
+                                                Q(inicial), &aceptado);
+    if (!aceptado) return std::nullopt;
+    return valor.toStdString();
+}
+
+std::optional<std::filesystem::path> DialogoQt::ArchivoParaAbrir(
+    std::string_view titulo, std::string_view filtro, const std::filesystem::path& carpeta) {
+    return Elegida(
+        QFileDialog::getOpenFileName(madre_, Q(titulo), Ruta(carpeta), FiltroQt(filtro)));
+}
+
+std::optional<std::filesystem::path> DialogoQt::ArchivoParaGuardar(
+    std::string_view titulo, std::string_view filtro, const std::filesystem::path& inicial) {
+    return Elegida(
+        QFileDialog::getSaveFileName(madre_, Q(titulo), Ruta(inicial), FiltroQt(filtro)));
+}
+
+std::optional<std::filesystem::path> DialogoQt::Carpeta(std::string_view titulo,
+                                                        const std::filesystem::path& inicial) {
+    return Elegida(QFileDialog::getExistingDirectory(madre_, Q(titulo), Ruta(inicial)));
+}
+
+}  // namespace quinteva::ui
