@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include "engine/columns.h"
+#include "engine/conditions.h"
 #include "engine/quiniela_base.h"
 
 namespace quinteva::engine {
