@@ -58,6 +58,8 @@ inline engine::SetCondiciones CondicionesAlAzar(Sorteo& s, const engine::Quiniel
     using namespace engine;
     SetCondiciones c = CondicionesIniciales(base);
     for (std::size_t i = 0; i < c.casilla.size(); ++i) c.casilla[i] = s.Moneda(0.45);
+    // 5 y 6 solo muestran la marca del Grupo en pantalla: no se guardan.
+    c.casilla[kCasillaGrupoMostrado] = c.casilla[kCasillaGrupoAcMostrado] = false;
 
     c.minInter = static_cast<std::int16_t>(s.Entre(0, 8));
     c.maxInter = static_cast<std::int16_t>(s.Entre(c.minInter, 14));
