@@ -37,7 +37,19 @@ bool SeguidosPasa(int racha, int desde, int min, int max) {
     return true;
 }
 
-int Cuenta(std::uint16_t m) { return std::popcount(static_cast<unsigned>(m)); }
+// Bits de cada máscara de 14 bits: una tabla, porque std::popcount sin la instrucción de la
+// CPU cuesta decenas de ciclos y aquí se cuenta decenas de veces por columna.
+const std::array<std::uint8_t, 1 << kPartidos>& TablaCuentas() {
+    static const auto tabla = [] {
+        std::array<std::uint8_t, 1 << kPartidos> t{};
+        for (unsigned m = 0; m < t.size(); ++m) t[m] = static_cast<std::uint8_t>(std::popcount(m));
+        return t;
+    }();
+    return tabla;
+}
+const std::array<std::uint8_t, 1 << kPartidos>& kCuentas = TablaCuentas();
+
+inline int Cuenta(std::uint16_t m) { return kCuentas[m & kTodos]; }
 
 }  // namespace
 
@@ -183,6 +195,7 @@ Filtro::Filtro(const SetCondiciones& c) {
             for (std::size_t b = 0; b < 4; ++b) {
                 if ((veces[static_cast<std::size_t>(p)] >> b & 1) != 0) {
                     planosLista_[l][b] |= static_cast<std::uint16_t>(1U << p);
+                    planos_[l] = std::max(planos_[l], b + 1);
                 }
             }
         }
@@ -212,155 +225,166 @@ Filtro::Filtro(const SetCondiciones& c) {
     }
 }
 
+// Sin saltos que dependan de la columna: se evalúan todas las familias activas y se anota cuáles
+// fallan; si alguna falla, la primera en el orden de las pruebas es la que cuenta. Cada familia
+// depende solo de la columna, así que veredicto y contadores son los de pararse en la primera.
 bool Filtro::Condicionar(const Mascaras& col, Rechazos& r) const {
+    enum : unsigned {
+        kFInter = 1U << 0,
+        kFInterCons = 1U << 1,
+        kFGenerales = 1U << 2,
+        kFSeguidos = 1U << 3,
+        kFParejas = 1U << 4,
+        kFTrios = 1U << 5,
+        kFSumas = 1U << 6,
+        kFGrupos = 1U << 7,
+        kFGruposAc = 1U << 8,
+        kFComparaciones = 1U << 9,
+        kFRepeticiones = 1U << 10,
+    };
     const std::uint16_t m1 = col.m[0];
     const std::uint16_t mx = col.m[1];
     const std::uint16_t m2 = col.m[2];
+    const std::array<std::uint16_t, 3> m = {m1, mx, m2};
     const auto& rachas = TablaRachas();
+    unsigned fallo = 0;
+    auto si = [](bool b, unsigned bit) { return b ? bit : 0U; };
 
     if (inter_ || interCons_) {
         const auto iguales = static_cast<std::uint16_t>((m1 & (m1 >> 1)) | (mx & (mx >> 1)) |
                                                         (m2 & (m2 >> 1)));
         const auto cambios = static_cast<std::uint16_t>(~iguales & kLugares13);
-        if (inter_ && limInter_.Fuera(Cuenta(cambios))) {
-            r.porCondicion[2] += 1;
-            return false;
-        }
-        if (interCons_ && limInterCons_.Fuera(rachas[cambios])) {
-            r.porCondicion[3] += 1;
-            return false;
-        }
+        fallo |= si(inter_ && limInter_.Fuera(Cuenta(cambios)), kFInter);
+        fallo |= si(interCons_ && limInterCons_.Fuera(rachas[cambios]), kFInterCons);
     }
-
     const auto variantes = static_cast<std::uint16_t>(~m1 & kTodos);
     if (generales_) {
-        if ((probarEquis_ && limEquis_.Fuera(Cuenta(mx))) ||
-            (probarDoses_ && limDoses_.Fuera(Cuenta(m2))) ||
-            (probarVariantes_ && limVariantes_.Fuera(kPartidos - Cuenta(m1)))) {
-            r.porCondicion[0] += 1;
-            return false;
-        }
+        const bool f = (probarEquis_ & limEquis_.Fuera(Cuenta(mx))) |
+                       (probarDoses_ & limDoses_.Fuera(Cuenta(m2))) |
+                       (probarVariantes_ & limVariantes_.Fuera(kPartidos - Cuenta(m1)));
+        fallo |= si(f, kFGenerales);
     }
-
     if (seguidos_) {
         const std::array<std::uint16_t, 4> mascaras = {m1, mx, m2, variantes};
-        for (std::size_t k = 0; k < 4; ++k) {
-            if (probarSeg_[k] && !segPasa_[k][rachas[mascaras[k]]]) {
-                r.porCondicion[1] += 1;
-                return false;
-            }
-        }
+        bool f = false;
+        for (std::size_t k = 0; k < 4; ++k) f |= probarSeg_[k] & !segPasa_[k][rachas[mascaras[k]]];
+        fallo |= si(f, kFSeguidos);
     }
-
-    const std::array<std::uint16_t, 3> m = {m1, mx, m2};
     if (parejas_) {
+        bool f = false;
         for (const ParejaProbada& p : parejasProbadas_) {
-            const auto n = Cuenta(static_cast<std::uint16_t>(m[static_cast<std::size_t>(p.a)] &
-                                                             (m[static_cast<std::size_t>(p.b)] >> 1)));
-            if (p.lim.Fuera(n)) {
-                r.porCondicion[4] += 1;
-                return false;
-            }
+            f |= p.lim.Fuera(Cuenta(static_cast<std::uint16_t>(
+                m[static_cast<std::size_t>(p.a)] & (m[static_cast<std::size_t>(p.b)] >> 1))));
         }
+        fallo |= si(f, kFParejas);
     }
     if (trios_) {
+        bool f = false;
         for (const ParejaProbada& p : triosProbados_) {
-            const auto n = Cuenta(static_cast<std::uint16_t>(
+            f |= p.lim.Fuera(Cuenta(static_cast<std::uint16_t>(
                 m[static_cast<std::size_t>(p.a)] & (m[static_cast<std::size_t>(p.b)] >> 1) &
-                (m[static_cast<std::size_t>(p.c)] >> 2)));
-            if (p.lim.Fuera(n)) {
-                r.porCondicion[5] += 1;
-                return false;
-            }
+                (m[static_cast<std::size_t>(p.c)] >> 2))));
         }
+        fallo |= si(f, kFTrios);
     }
-
     if (sumas_) {
         int suma = 0;
         for (std::size_t s = 0; s < 3; ++s) {
             suma += sumaMitad_[s][0][m[s] & 0x7F] + sumaMitad_[s][1][m[s] >> 7];
         }
-        if (limSumas_.Fuera(suma)) {
-            r.porCondicion[6] += 1;
-            return false;
-        }
+        fallo |= si(limSumas_.Fuera(suma), kFSumas);
     }
-
-    int fallados = 0;
-    for (const GrupoProbado& g : grupos_) {
+    // Grupos fallados, un bit por Grupo probado en su orden.
+    std::uint64_t fallanGrupos = 0;
+    for (std::size_t i = 0; i < grupos_.size(); ++i) {
+        const GrupoProbado& g = grupos_[i];
         const int n1 = Cuenta(static_cast<std::uint16_t>(g.partidos & m1));
         const int nx = Cuenta(static_cast<std::uint16_t>(g.partidos & mx));
         const int n2 = Cuenta(static_cast<std::uint16_t>(g.partidos & m2));
-        if (!(g.lim[0].Fuera(n1) || g.lim[1].Fuera(nx) || g.lim[2].Fuera(n2) ||
-              g.lim[3].Fuera(nx + n2))) {
-            continue;
-        }
-        if (toleranciaGrupos_ == 0) {
-            r.grupo[static_cast<std::size_t>(g.indice)] += 1;
-            return false;
-        }
-        if (++fallados > toleranciaGrupos_) {
-            r.tolGrupos += 1;
-            return false;
-        }
+        const bool f = g.lim[0].Fuera(n1) | g.lim[1].Fuera(nx) | g.lim[2].Fuera(n2) |
+                       g.lim[3].Fuera(nx + n2);
+        fallanGrupos |= static_cast<std::uint64_t>(f) << i;
     }
-
-    fallados = 0;
-    for (const GrupoAcProbado& g : gruposAc_) {
+    if (fallanGrupos != 0) {
+        fallo |= si(toleranciaGrupos_ == 0 || std::popcount(fallanGrupos) > toleranciaGrupos_,
+                    kFGrupos);
+    }
+    std::uint64_t fallanAc = 0;
+    for (std::size_t i = 0; i < gruposAc_.size(); ++i) {
+        const GrupoAcProbado& g = gruposAc_[i];
         const int aciertos = Cuenta(static_cast<std::uint16_t>(g.acierto[0] & m1)) +
                              Cuenta(static_cast<std::uint16_t>(g.acierto[1] & mx)) +
                              Cuenta(static_cast<std::uint16_t>(g.acierto[2] & m2));
-        if (!g.lim.Fuera(aciertos)) continue;
-        if (toleranciaGruposAc_ == 0) {
-            r.grupoAciertos[static_cast<std::size_t>(g.indice)] += 1;
-            return false;
-        }
-        if (++fallados > toleranciaGruposAc_) {
-            r.tolGruposAciertos += 1;
-            return false;
-        }
+        fallanAc |= static_cast<std::uint64_t>(g.lim.Fuera(aciertos)) << i;
     }
-
+    if (fallanAc != 0) {
+        fallo |= si(toleranciaGruposAc_ == 0 || std::popcount(fallanAc) > toleranciaGruposAc_,
+                    kFGruposAc);
+    }
     if (comparaciones_) {
-        std::array<int, 12> tabla{};
-        for (std::size_t s = 0; s < 3; ++s) {
-            for (std::size_t l = 0; l < 4; ++l) {
-                int n = 0;
-                for (std::size_t b = 0; b < 4; ++b) {
-                    n += Cuenta(static_cast<std::uint16_t>(planosLista_[l][b] & m[s])) << b;
-                }
-                tabla[s * 4 + l] = n;
+        auto celda = [&](int c) {
+            if (c < 0) return 0;
+            const auto s = static_cast<std::size_t>(c / 4);
+            const auto l = static_cast<std::size_t>(c % 4);
+            int n = 0;
+            for (std::size_t b = 0; b < planos_[l]; ++b) {
+                n += Cuenta(static_cast<std::uint16_t>(planosLista_[l][b] & m[s])) << b;
             }
-        }
-        for (const ComparacionProbada& f : comparacionesProbadas_) {
-            const int a = f.izq < 0 ? 0 : tabla[static_cast<std::size_t>(f.izq)];
-            const int b = f.der < 0 ? 0 : tabla[static_cast<std::size_t>(f.der)];
-            bool cumple = true;
-            switch (f.operador) {
-                case 1: cumple = a < b; break;
-                case 2: cumple = a <= b; break;
-                case 3: cumple = a == b; break;
-                case 4: cumple = a >= b; break;
-                case 5: cumple = a > b; break;
+            return n;
+        };
+        bool f = false;
+        for (const ComparacionProbada& fila : comparacionesProbadas_) {
+            const int a = celda(fila.izq);
+            const int b = celda(fila.der);
+            switch (fila.operador) {
+                case 1: f |= !(a < b); break;
+                case 2: f |= !(a <= b); break;
+                case 3: f |= !(a == b); break;
+                case 4: f |= !(a >= b); break;
+                case 5: f |= !(a > b); break;
                 default: break;
             }
-            if (!cumple) {
-                r.porCondicion[7] += 1;
-                return false;
-            }
         }
+        fallo |= si(f, kFComparaciones);
     }
-
     if (repeticiones_) {
         const std::array<std::uint16_t, 4> mascaras = {m1, mx, m2, m1};
+        bool f = false;
         for (std::size_t k = 0; k < 4; ++k) {
-            if (probarRep_[k] && cuentaRep_[k][mascaras[k]] > limiteRep_[k]) {
-                r.porCondicion[8] += 1;
-                return false;
-            }
+            f |= probarRep_[k] && cuentaRep_[k][mascaras[k]] > limiteRep_[k];
         }
+        fallo |= si(f, kFRepeticiones);
     }
-    return true;
+
+    if (fallo == 0) return true;
+    switch (fallo & (~fallo + 1)) {
+        case kFInter: r.porCondicion[2] += 1; break;
+        case kFInterCons: r.porCondicion[3] += 1; break;
+        case kFGenerales: r.porCondicion[0] += 1; break;
+        case kFSeguidos: r.porCondicion[1] += 1; break;
+        case kFParejas: r.porCondicion[4] += 1; break;
+        case kFTrios: r.porCondicion[5] += 1; break;
+        case kFSumas: r.porCondicion[6] += 1; break;
+        case kFGrupos:
+            if (toleranciaGrupos_ == 0) {
+                r.grupo[static_cast<std::size_t>(grupos_[static_cast<std::size_t>(
+                    std::countr_zero(fallanGrupos))].indice)] += 1;
+            } else {
+                r.tolGrupos += 1;
+            }
+            break;
+        case kFGruposAc:
+            if (toleranciaGruposAc_ == 0) {
+                r.grupoAciertos[static_cast<std::size_t>(gruposAc_[static_cast<std::size_t>(
+                    std::countr_zero(fallanAc))].indice)] += 1;
+            } else {
+                r.tolGruposAciertos += 1;
+            }
+            break;
+        case kFComparaciones: r.porCondicion[7] += 1; break;
+        default: r.porCondicion[8] += 1; break;
+    }
+    return false;
 }
 
 }  // namespace quinteva::engine

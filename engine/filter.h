@@ -35,7 +35,7 @@ class Filtro {
     struct Limites {
         int min = 0;
         int max = 0;
-        bool Fuera(int v) const { return v < min || v > max; }
+        bool Fuera(int v) const { return (v < min) | (v > max); }
     };
     struct ParejaProbada {
         int a, b, c;  // signos; c = -1 en las parejas
@@ -85,6 +85,7 @@ class Filtro {
     // Por lista, los partidos por planos de bits de su multiplicidad (un partido repetido en una
     // lista cuenta cada vez).
     std::array<std::array<std::uint16_t, 4>, 4> planosLista_{};
+    std::array<std::size_t, 4> planos_{};
     std::vector<ComparacionProbada> comparacionesProbadas_;
 
     bool repeticiones_ = false;
