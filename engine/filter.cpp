@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <bit>
+#include <cstring>
 
 namespace quinteva::engine {
 namespace {
@@ -51,16 +52,41 @@ const std::array<std::uint8_t, 1 << kPartidos>& kCuentas = TablaCuentas();
 
 inline int Cuenta(std::uint16_t m) { return kCuentas[m & kTodos]; }
 
+
+// Carriles fuera de sus límites: el bit alto de cada byte usado cuya cuenta no está en [min, max].
+// Con cuentas y límites por debajo de 128 la resta de un byte no pide prestado al siguiente.
+constexpr std::uint64_t kAltos = 0x8080808080808080ULL;
+inline std::uint64_t FueraSwar(std::uint64_t cuenta, std::uint64_t min, std::uint64_t max,
+                               std::uint64_t usados) {
+    const std::uint64_t desdeMin = ((cuenta | kAltos) - min) & kAltos;
+    const std::uint64_t hastaMax = ((max | kAltos) - cuenta) & kAltos;
+    return ~(desdeMin & hastaMax) & usados;
+}
+
 }  // namespace
 
 Mascaras MascarasDe(const Columna& columna) {
     Mascaras r;
     for (int p = 0; p < kPartidos; ++p) {
         const int s = IndiceSigno(columna[static_cast<std::size_t>(p)]);
-        if (s >= 0) r.m[static_cast<std::size_t>(s)] |= static_cast<std::uint16_t>(1U << p);
+        if (s < 0) continue;
+        r.m[static_cast<std::size_t>(s)] |= static_cast<std::uint16_t>(1U << p);
+        r.signo[static_cast<std::size_t>(p)] = static_cast<std::uint8_t>(s);
     }
     return r;
 }
+
+template <std::size_t kPalabras>
+void Filtro::Carriles<kPalabras>::Poner(std::size_t carril, int minimo, int maximo) {
+    // Las cuentas no pasan de 14: un mínimo de 15 o más falla siempre, un máximo de 15 o más no.
+    const auto recorte = [](int v) { return static_cast<std::uint64_t>(std::clamp(v, 0, 15)); };
+    const std::size_t palabra = carril / 8;
+    const std::size_t desplazamiento = carril % 8 * 8;
+    min[palabra] |= recorte(minimo) << desplazamiento;
+    max[palabra] |= recorte(maximo) << desplazamiento;
+    usados[palabra] |= std::uint64_t{0x80} << desplazamiento;
+}
+
 
 int RachaMasLarga(std::uint16_t mascara) { return TablaRachas()[mascara & kTodos]; }
 
@@ -97,6 +123,7 @@ int RepeticionesVariantes(std::uint16_t unos, int largo) {
     return cuenta;
 }
 
+
 Filtro::Filtro(const SetCondiciones& c) {
     auto casilla = [&](Casilla i) { return c.casilla[static_cast<std::size_t>(i)]; };
 
@@ -123,17 +150,19 @@ Filtro::Filtro(const SetCondiciones& c) {
         }
     }
 
+    // Una pareja o un trío en su "sin límite" con mínimo 0 se salta.
     parejas_ = casilla(kCasillaParejas);
     for (int i = 0; i < 9; ++i) {
         const auto u = static_cast<std::size_t>(i);
         if (c.minPareja[u] == 0 && c.maxPareja[u] >= SinLimitePareja(i)) continue;
-        parejasProbadas_.push_back({i / 3, i % 3, -1, {c.minPareja[u], c.maxPareja[u]}});
+        limParejas_.Poner(static_cast<std::size_t>(i / 3 * 4 + i % 3), c.minPareja[u], c.maxPareja[u]);
     }
     trios_ = casilla(kCasillaTrios);
     for (int i = 0; i < 27; ++i) {
         const auto u = static_cast<std::size_t>(i);
         if (c.minTrio[u] == 0 && c.maxTrio[u] >= SinLimiteTrio(i)) continue;
-        triosProbados_.push_back({i / 9, i / 3 % 3, i % 3, {c.minTrio[u], c.maxTrio[u]}});
+        limTrios_.Poner(static_cast<std::size_t>(i / 9 * 16 + i / 3 % 3 * 4 + i % 3), c.minTrio[u],
+                        c.maxTrio[u]);
     }
 
     sumas_ = casilla(kCasillaSumas);
@@ -154,49 +183,43 @@ Filtro::Filtro(const SetCondiciones& c) {
     for (int g = 0; g <= ultimo; ++g) {
         const Grupo& grupo = c.grupos[static_cast<std::size_t>(g)];
         if (!grupo.activo) continue;
-        GrupoProbado p{g, 0, {}};
-        for (int i = 0; i < kPartidos; ++i) {
-            if (grupo.partidos[static_cast<std::size_t>(i)]) {
-                p.partidos |= static_cast<std::uint16_t>(1U << i);
-            }
+        const std::size_t carril = indiceGrupo_.size();
+        indiceGrupo_.push_back(g);
+        for (std::size_t p = 0; p < kPartidos; ++p) {
+            if (grupo.partidos[p]) miembro_[p][carril / 8] |= std::uint64_t{1} << (carril % 8 * 8);
         }
-        for (std::size_t k = 0; k < 4; ++k) p.lim[k] = {grupo.min[k], grupo.max[k]};
-        grupos_.push_back(p);
+        for (std::size_t k = 0; k < 4; ++k) limGrupo_[k].Poner(carril, grupo.min[k], grupo.max[k]);
     }
+    palabrasGrupo_ = (indiceGrupo_.size() + 7) / 8;
     toleranciaGrupos_ = c.toleranciaGrupos;
 
     const int ultimoAc = std::min<int>(c.ultimoGrupoAc, kGrupos - 1);
     for (int g = 0; g <= ultimoAc; ++g) {
         const GrupoAciertos& grupo = c.gruposAc[static_cast<std::size_t>(g)];
         if (!grupo.activo) continue;
-        GrupoAcProbado p{g, {}, {grupo.aciertosMin, grupo.aciertosMax}};
-        for (int i = 0; i < kPartidos; ++i) {
-            if (!grupo.EsDelGrupo(i)) continue;
-            const auto& celda = grupo.signos[static_cast<std::size_t>(i)];
+        const std::size_t carril = indiceGrupoAc_.size();
+        indiceGrupoAc_.push_back(g);
+        for (std::size_t p = 0; p < kPartidos; ++p) {
+            if (!grupo.EsDelGrupo(static_cast<int>(p))) continue;
+            const auto& celda = grupo.signos[p];
             for (std::size_t s = 0; s < 3; ++s) {
                 if (std::find(celda.begin(), celda.end(), kSignos[s]) != celda.end()) {
-                    p.acierto[s] |= static_cast<std::uint16_t>(1U << i);
+                    acierto_[p][s][carril / 8] |= std::uint64_t{1} << (carril % 8 * 8);
                 }
             }
         }
-        gruposAc_.push_back(p);
+        limGrupoAc_.Poner(carril, grupo.aciertosMin, grupo.aciertosMax);
     }
+    palabrasGrupoAc_ = (indiceGrupoAc_.size() + 7) / 8;
     toleranciaGruposAc_ = c.toleranciaGruposAc;
 
     comparaciones_ = casilla(kCasillaComparaciones);
     for (std::size_t l = 0; l < 4; ++l) {
-        std::array<int, kPartidos> veces{};
         const int n = std::min<int>(c.numListas[l], kPartidos);
         for (int i = 1; i <= n; ++i) {
             const int partido = c.listas[l][static_cast<std::size_t>(i)];
-            if (partido >= 1 && partido <= kPartidos) ++veces[static_cast<std::size_t>(partido - 1)];
-        }
-        for (int p = 0; p < kPartidos; ++p) {
-            for (std::size_t b = 0; b < 4; ++b) {
-                if ((veces[static_cast<std::size_t>(p)] >> b & 1) != 0) {
-                    planosLista_[l][b] |= static_cast<std::uint16_t>(1U << p);
-                    planos_[l] = std::max(planos_[l], b + 1);
-                }
+            if (partido >= 1 && partido <= kPartidos) {
+                vecesEnListas_[static_cast<std::size_t>(partido - 1)] += 1U << (8 * l);
             }
         }
     }
@@ -245,7 +268,7 @@ bool Filtro::Condicionar(const Mascaras& col, Rechazos& r) const {
     const std::uint16_t m1 = col.m[0];
     const std::uint16_t mx = col.m[1];
     const std::uint16_t m2 = col.m[2];
-    const std::array<std::uint16_t, 3> m = {m1, mx, m2};
+    const auto& s = col.signo;
     const auto& rachas = TablaRachas();
     unsigned fallo = 0;
     auto si = [](bool b, unsigned bit) { return b ? bit : 0U; };
@@ -257,7 +280,6 @@ bool Filtro::Condicionar(const Mascaras& col, Rechazos& r) const {
         fallo |= si(inter_ && limInter_.Fuera(Cuenta(cambios)), kFInter);
         fallo |= si(interCons_ && limInterCons_.Fuera(rachas[cambios]), kFInterCons);
     }
-    const auto variantes = static_cast<std::uint16_t>(~m1 & kTodos);
     if (generales_) {
         const bool f = (probarEquis_ & limEquis_.Fuera(Cuenta(mx))) |
                        (probarDoses_ & limDoses_.Fuera(Cuenta(m2))) |
@@ -265,72 +287,87 @@ bool Filtro::Condicionar(const Mascaras& col, Rechazos& r) const {
         fallo |= si(f, kFGenerales);
     }
     if (seguidos_) {
-        const std::array<std::uint16_t, 4> mascaras = {m1, mx, m2, variantes};
-        bool f = false;
-        for (std::size_t k = 0; k < 4; ++k) f |= probarSeg_[k] & !segPasa_[k][rachas[mascaras[k]]];
+        const auto variantes = static_cast<std::uint16_t>(~m1 & kTodos);
+        const bool f = (probarSeg_[0] & !segPasa_[0][rachas[m1]]) |
+                       (probarSeg_[1] & !segPasa_[1][rachas[mx]]) |
+                       (probarSeg_[2] & !segPasa_[2][rachas[m2]]) |
+                       (probarSeg_[3] & !segPasa_[3][rachas[variantes]]);
         fallo |= si(f, kFSeguidos);
     }
     if (parejas_) {
-        bool f = false;
-        for (const ParejaProbada& p : parejasProbadas_) {
-            f |= p.lim.Fuera(Cuenta(static_cast<std::uint16_t>(
-                m[static_cast<std::size_t>(p.a)] & (m[static_cast<std::size_t>(p.b)] >> 1))));
-        }
-        fallo |= si(f, kFParejas);
+        std::array<std::uint8_t, 16> cuenta{};
+        for (std::size_t i = 0; i + 1 < kPartidos; ++i) ++cuenta[(s[i] * 4U + s[i + 1]) & 15U];
+        std::array<std::uint64_t, 2> w{};
+        std::memcpy(w.data(), cuenta.data(), sizeof w);
+        const std::uint64_t f =
+            FueraSwar(w[0], limParejas_.min[0], limParejas_.max[0], limParejas_.usados[0]) |
+            FueraSwar(w[1], limParejas_.min[1], limParejas_.max[1], limParejas_.usados[1]);
+        fallo |= si(f != 0, kFParejas);
     }
     if (trios_) {
-        bool f = false;
-        for (const ParejaProbada& p : triosProbados_) {
-            f |= p.lim.Fuera(Cuenta(static_cast<std::uint16_t>(
-                m[static_cast<std::size_t>(p.a)] & (m[static_cast<std::size_t>(p.b)] >> 1) &
-                (m[static_cast<std::size_t>(p.c)] >> 2))));
+        std::array<std::uint8_t, 64> cuenta{};
+        for (std::size_t i = 0; i + 2 < kPartidos; ++i) {
+            ++cuenta[(s[i] * 16U + s[i + 1] * 4U + s[i + 2]) & 63U];
         }
-        fallo |= si(f, kFTrios);
+        std::array<std::uint64_t, 8> w{};
+        std::memcpy(w.data(), cuenta.data(), sizeof w);
+        std::uint64_t f = 0;
+        for (std::size_t i = 0; i < 8; ++i) {
+            f |= FueraSwar(w[i], limTrios_.min[i], limTrios_.max[i], limTrios_.usados[i]);
+        }
+        fallo |= si(f != 0, kFTrios);
     }
     if (sumas_) {
+        const std::array<std::uint16_t, 3> m = {m1, mx, m2};
         int suma = 0;
-        for (std::size_t s = 0; s < 3; ++s) {
-            suma += sumaMitad_[s][0][m[s] & 0x7F] + sumaMitad_[s][1][m[s] >> 7];
+        for (std::size_t k = 0; k < 3; ++k) {
+            suma += sumaMitad_[k][0][m[k] & 0x7F] + sumaMitad_[k][1][m[k] >> 7];
         }
         fallo |= si(limSumas_.Fuera(suma), kFSumas);
     }
-    // Grupos fallados, un bit por Grupo probado en su orden.
-    std::uint64_t fallanGrupos = 0;
-    for (std::size_t i = 0; i < grupos_.size(); ++i) {
-        const GrupoProbado& g = grupos_[i];
-        const int n1 = Cuenta(static_cast<std::uint16_t>(g.partidos & m1));
-        const int nx = Cuenta(static_cast<std::uint16_t>(g.partidos & mx));
-        const int n2 = Cuenta(static_cast<std::uint16_t>(g.partidos & m2));
-        const bool f = g.lim[0].Fuera(n1) | g.lim[1].Fuera(nx) | g.lim[2].Fuera(n2) |
-                       g.lim[3].Fuera(nx + n2);
-        fallanGrupos |= static_cast<std::uint64_t>(f) << i;
+
+    // Grupos: cuentas por carril; los fallados con el bit alto de su byte.
+    std::array<std::uint64_t, kPalabrasGrupo> fallanGrupos{};
+    int gruposFallados = 0;
+    if (palabrasGrupo_ > 0) {
+        std::array<std::array<std::uint64_t, kPalabrasGrupo>, 4> cuenta{};
+        for (std::size_t p = 0; p < kPartidos; ++p) {
+            auto& destino = cuenta[s[p]];
+            for (std::size_t w = 0; w < palabrasGrupo_; ++w) destino[w] += miembro_[p][w];
+        }
+        for (std::size_t w = 0; w < palabrasGrupo_; ++w) {
+            const std::uint64_t v = cuenta[1][w] + cuenta[2][w];
+            fallanGrupos[w] =
+                FueraSwar(cuenta[0][w], limGrupo_[0].min[w], limGrupo_[0].max[w], limGrupo_[0].usados[w]) |
+                FueraSwar(cuenta[1][w], limGrupo_[1].min[w], limGrupo_[1].max[w], limGrupo_[1].usados[w]) |
+                FueraSwar(cuenta[2][w], limGrupo_[2].min[w], limGrupo_[2].max[w], limGrupo_[2].usados[w]) |
+                FueraSwar(v, limGrupo_[3].min[w], limGrupo_[3].max[w], limGrupo_[3].usados[w]);
+            gruposFallados += std::popcount(fallanGrupos[w]);
+        }
+        fallo |= si(gruposFallados > toleranciaGrupos_, kFGrupos);
     }
-    if (fallanGrupos != 0) {
-        fallo |= si(toleranciaGrupos_ == 0 || std::popcount(fallanGrupos) > toleranciaGrupos_,
-                    kFGrupos);
-    }
-    std::uint64_t fallanAc = 0;
-    for (std::size_t i = 0; i < gruposAc_.size(); ++i) {
-        const GrupoAcProbado& g = gruposAc_[i];
-        const int aciertos = Cuenta(static_cast<std::uint16_t>(g.acierto[0] & m1)) +
-                             Cuenta(static_cast<std::uint16_t>(g.acierto[1] & mx)) +
-                             Cuenta(static_cast<std::uint16_t>(g.acierto[2] & m2));
-        fallanAc |= static_cast<std::uint64_t>(g.lim.Fuera(aciertos)) << i;
-    }
-    if (fallanAc != 0) {
-        fallo |= si(toleranciaGruposAc_ == 0 || std::popcount(fallanAc) > toleranciaGruposAc_,
-                    kFGruposAc);
+    std::array<std::uint64_t, kPalabrasGrupo> fallanAc{};
+    if (palabrasGrupoAc_ > 0) {
+        std::array<std::uint64_t, kPalabrasGrupo> aciertos{};
+        for (std::size_t p = 0; p < kPartidos; ++p) {
+            const auto& suma = acierto_[p][s[p]];
+            for (std::size_t w = 0; w < palabrasGrupoAc_; ++w) aciertos[w] += suma[w];
+        }
+        int fallados = 0;
+        for (std::size_t w = 0; w < palabrasGrupoAc_; ++w) {
+            fallanAc[w] = FueraSwar(aciertos[w], limGrupoAc_.min[w], limGrupoAc_.max[w],
+                                    limGrupoAc_.usados[w]);
+            fallados += std::popcount(fallanAc[w]);
+        }
+        fallo |= si(fallados > toleranciaGruposAc_, kFGruposAc);
     }
     if (comparaciones_) {
-        auto celda = [&](int c) {
+        // Por signo, las cuentas de las cuatro listas, un byte cada una.
+        std::array<std::uint32_t, 4> tabla{};
+        for (std::size_t p = 0; p < kPartidos; ++p) tabla[s[p]] += vecesEnListas_[p];
+        auto celda = [&](int c) -> int {
             if (c < 0) return 0;
-            const auto s = static_cast<std::size_t>(c / 4);
-            const auto l = static_cast<std::size_t>(c % 4);
-            int n = 0;
-            for (std::size_t b = 0; b < planos_[l]; ++b) {
-                n += Cuenta(static_cast<std::uint16_t>(planosLista_[l][b] & m[s])) << b;
-            }
-            return n;
+            return static_cast<int>(tabla[static_cast<std::size_t>(c / 4)] >> (8 * (c % 4)) & 0xFFU);
         };
         bool f = false;
         for (const ComparacionProbada& fila : comparacionesProbadas_) {
@@ -357,6 +394,12 @@ bool Filtro::Condicionar(const Mascaras& col, Rechazos& r) const {
     }
 
     if (fallo == 0) return true;
+    // El primer carril fallado, en el orden de los grupos.
+    auto primero = [](const std::array<std::uint64_t, kPalabrasGrupo>& fallan) {
+        std::size_t w = 0;
+        while (fallan[w] == 0) ++w;
+        return w * 8 + static_cast<std::size_t>(std::countr_zero(fallan[w])) / 8;
+    };
     switch (fallo & (~fallo + 1)) {
         case kFInter: r.porCondicion[2] += 1; break;
         case kFInterCons: r.porCondicion[3] += 1; break;
@@ -367,16 +410,14 @@ bool Filtro::Condicionar(const Mascaras& col, Rechazos& r) const {
         case kFSumas: r.porCondicion[6] += 1; break;
         case kFGrupos:
             if (toleranciaGrupos_ == 0) {
-                r.grupo[static_cast<std::size_t>(grupos_[static_cast<std::size_t>(
-                    std::countr_zero(fallanGrupos))].indice)] += 1;
+                r.grupo[static_cast<std::size_t>(indiceGrupo_[primero(fallanGrupos)])] += 1;
             } else {
                 r.tolGrupos += 1;
             }
             break;
         case kFGruposAc:
             if (toleranciaGruposAc_ == 0) {
-                r.grupoAciertos[static_cast<std::size_t>(gruposAc_[static_cast<std::size_t>(
-                    std::countr_zero(fallanAc))].indice)] += 1;
+                r.grupoAciertos[static_cast<std::size_t>(indiceGrupoAc_[primero(fallanAc)])] += 1;
             } else {
                 r.tolGruposAciertos += 1;
             }

@@ -46,6 +46,7 @@ ResultadoGeneracion Generar(Combinacion& comb, const std::filesystem::path& carp
         const int s = opciones[static_cast<std::size_t>(p)][0];
         mascaras.m[static_cast<std::size_t>(s)] |= static_cast<std::uint16_t>(1U << p);
         registro.columna[static_cast<std::size_t>(p)] = kSignos[static_cast<std::size_t>(s)];
+        mascaras.signo[static_cast<std::size_t>(p)] = static_cast<std::uint8_t>(s);
     }
     auto bytes = registro.ABytes();
 
@@ -73,6 +74,7 @@ ResultadoGeneracion Generar(Combinacion& comb, const std::filesystem::path& carp
             if (vuelta) indice[u] = 0;
             const int s = opciones[u][static_cast<std::size_t>(indice[u])];
             mascaras.m[static_cast<std::size_t>(s)] |= bit;
+            mascaras.signo[u] = static_cast<std::uint8_t>(s);
             bytes[u] = static_cast<base::Byte>(kSignos[static_cast<std::size_t>(s)]);
             if (!vuelta) break;
         }
