@@ -319,6 +319,31 @@ bool Filtro::Condicionar(const Columna& columna, Rechazos& r) const {
     return Condicionar(a, ca.data(), b, cb.data(), r);
 }
 
+bool Filtro::FallaInterConsecutivas(const Mascaras& col) const {
+    const auto [m1, mx, m2] = col.m;
+    const auto iguales =
+        static_cast<std::uint16_t>((m1 & (m1 >> 1)) | (mx & (mx >> 1)) | (m2 & (m2 >> 1)));
+    return limInterCons_.Fuera(TablaRachas()[static_cast<std::uint16_t>(~iguales & kLugares13)]);
+}
+
+bool Filtro::FallaSeguidos(const Mascaras& col) const {
+    const auto& rachas = TablaRachas();
+    const auto [m1, mx, m2] = col.m;
+    const auto variantes = static_cast<std::uint16_t>(~m1 & kTodos);
+    return (probarSeg_[0] & !segPasa_[0][rachas[m1]]) | (probarSeg_[1] & !segPasa_[1][rachas[mx]]) |
+           (probarSeg_[2] & !segPasa_[2][rachas[m2]]) |
+           (probarSeg_[3] & !segPasa_[3][rachas[variantes]]);
+}
+
+bool Filtro::FallaRepeticiones(const Mascaras& col) const {
+    const std::array<std::uint16_t, 4> mascaras = {col.m[0], col.m[1], col.m[2], col.m[0]};
+    bool f = false;
+    for (std::size_t k = 0; k < 4; ++k) {
+        f |= probarRep_[k] && cuentaRep_[k][mascaras[k]] > limiteRep_[k];
+    }
+    return f;
+}
+
 // Sin saltos que dependan de la columna: se evalúan todas las familias activas y se anota cuáles
 // fallan; si alguna falla, la primera en el orden de las pruebas es la que cuenta. Cada familia
 // depende solo de la columna, así que veredicto y contadores son los de pararse en la primera.
@@ -351,20 +376,14 @@ bool Filtro::Condicionar(const Aporte& a, const std::uint64_t* ca, const Aporte&
         fallo |= si(inter_ && limInter_.Fuera(Cuenta(cambios)), kFInter);
         fallo |= si(interCons_ && limInterCons_.Fuera(rachas[cambios]), kFInterCons);
     }
+    const Mascaras mascaras{{m1, mx, m2}};
     if (generales_) {
         const bool f = (probarEquis_ & limEquis_.Fuera(Cuenta(mx))) |
                        (probarDoses_ & limDoses_.Fuera(Cuenta(m2))) |
                        (probarVariantes_ & limVariantes_.Fuera(kPartidos - Cuenta(m1)));
         fallo |= si(f, kFGenerales);
     }
-    if (seguidos_) {
-        const auto variantes = static_cast<std::uint16_t>(~m1 & kTodos);
-        const bool f = (probarSeg_[0] & !segPasa_[0][rachas[m1]]) |
-                       (probarSeg_[1] & !segPasa_[1][rachas[mx]]) |
-                       (probarSeg_[2] & !segPasa_[2][rachas[m2]]) |
-                       (probarSeg_[3] & !segPasa_[3][rachas[variantes]]);
-        fallo |= si(f, kFSeguidos);
-    }
+    if (seguidos_) fallo |= si(FallaSeguidos(mascaras), kFSeguidos);
     // Las familias van por tramos en su orden: si un tramo ya falla, lo que viene detrás no
     // puede cambiar el contador y no se calcula.
     int gruposFallados = 0, acFallados = 0;
@@ -433,14 +452,7 @@ bool Filtro::Condicionar(const Aporte& a, const std::uint64_t* ca, const Aporte&
         }
         fallo |= si(f, kFComparaciones);
     }
-    if (repeticiones_) {
-        const std::array<std::uint16_t, 4> mascaras = {m1, mx, m2, m1};
-        bool f = false;
-        for (std::size_t k = 0; k < 4; ++k) {
-            f |= probarRep_[k] && cuentaRep_[k][mascaras[k]] > limiteRep_[k];
-        }
-        fallo |= si(f, kFRepeticiones);
-    }
+    if (repeticiones_) fallo |= si(FallaRepeticiones(mascaras), kFRepeticiones);
 
     if (fallo == 0) return true;
 rechazo:

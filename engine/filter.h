@@ -58,7 +58,14 @@ class Filtro {
     bool Condicionar(const Aporte& a, const std::uint64_t* carrilesA, const Aporte& b,
                      const std::uint64_t* carrilesB, Rechazos& rechazos) const;
 
+    // Las familias que no se suman por mitades, cada una por separado (sin mirar su casilla):
+    // el filtro por bloques las usa para llenar sus cachés.
+    bool FallaInterConsecutivas(const Mascaras& columna) const;
+    bool FallaSeguidos(const Mascaras& columna) const;
+    bool FallaRepeticiones(const Mascaras& columna) const;
+
   private:
+    friend class FiltroPorBloques;
     struct Limites {
         int min = 0;
         int max = 0;

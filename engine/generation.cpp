@@ -1,6 +1,9 @@
 #include "engine/generation.h"
 
+#include <algorithm>
 #include <array>
+#include <bit>
+#include <optional>
 #include <cstdio>
 #include <cstring>
 #include <memory>
@@ -8,7 +11,7 @@
 
 #include "base/error.h"
 #include "base/record_files.h"
-#include "engine/filter.h"
+#include "engine/filter_blocks.h"
 
 namespace quinteva::engine {
 namespace {
@@ -21,6 +24,19 @@ class EscritorColumnas {
         : ruta_(ruta), archivo_(std::fopen(ruta.c_str(), "wb"), &std::fclose) {
         if (!archivo_) base::FalloDeArchivo(ruta);
         bufer_.resize(kRegistrosPorBloque * RegistroColumna::kLongitud);
+    }
+    // Registros seguidos en memoria.
+    void AnadirBloque(const base::Byte* registros, std::size_t cuantos) {
+        std::size_t bytes = cuantos * RegistroColumna::kLongitud;
+        while (bytes > 0) {
+            const std::size_t cabe = std::min(bytes, bufer_.size() - lleno_);
+            std::memcpy(bufer_.data() + lleno_, registros, cabe);
+            lleno_ += cabe;
+            registros += cabe;
+            bytes -= cabe;
+            if (lleno_ == bufer_.size()) Volcar();
+        }
+        cuenta_ += static_cast<std::int32_t>(cuantos);
     }
     void Anadir(const base::Byte* registro) {
         std::memcpy(bufer_.data() + lleno_, registro, RegistroColumna::kLongitud);
@@ -83,8 +99,6 @@ ResultadoGeneracion Generar(Combinacion& comb, const std::filesystem::path& carp
 
     EscritorColumnas cmb(rutaCmb);
     const bool filtrar = comb.numCondiciones > 0;
-    const Filtro filtro(filtrar ? comb.condiciones : SetCondiciones{});
-    const std::size_t palabras = filtro.Palabras();
 
     // Las mitades en el orden del cuentakilómetros: partidos 1 a 7 y 8 a 14.
     auto mitades = [&](int desde) {
@@ -109,21 +123,6 @@ ResultadoGeneracion Generar(Combinacion& comb, const std::filesystem::path& carp
     const std::vector<SignosMitad> primeras = mitades(0);
     const std::vector<SignosMitad> segundas = mitades(kMitad);
 
-    // Aportes de las segundas mitades, una tabla por cada par de signos finales de la primera.
-    std::vector<Aporte> aportes;
-    std::vector<std::uint64_t> carriles;
-    if (filtrar) {
-        aportes.resize(9 * segundas.size());
-        carriles.resize(9 * segundas.size() * palabras + 1);
-        for (std::uint8_t par = 0; par < 9; ++par) {
-            for (std::size_t i = 0; i < segundas.size(); ++i) {
-                const std::size_t k = par * segundas.size() + i;
-                filtro.AporteSegunda(static_cast<std::uint8_t>(par / 3), static_cast<std::uint8_t>(par % 3),
-                                     segundas[i], aportes[k], carriles.data() + k * palabras);
-            }
-        }
-    }
-
     // El registro de cada segunda mitad, con el Pleno y el estado; la primera se pone encima.
     RegistroColumna registro{{}, comb.pleno, kActiva};
     std::vector<std::array<base::Byte, RegistroColumna::kLongitud>> registros(segundas.size());
@@ -133,37 +132,48 @@ ResultadoGeneracion Generar(Combinacion& comb, const std::filesystem::path& carp
         }
         registros[i] = registro.ABytes();
     }
+
+    std::optional<FiltroPorBloques> bloques;
+    if (filtrar) bloques.emplace(comb.condiciones, segundas);
+    std::vector<std::uint64_t> pasan((segundas.size() + 63) / 64);
+
     const auto total = static_cast<std::int64_t>(comb.apuestasPosibles);
+    const auto n = static_cast<std::int64_t>(segundas.size());
     ResultadoGeneracion r;
     std::int64_t examinadas = 0;
-    Aporte primera;
-    std::vector<std::uint64_t> carrilesPrimera(palabras + 1);
     for (const SignosMitad& a : primeras) {
         std::array<base::Byte, kMitad> bytesPrimera{};
         for (std::size_t i = 0; i < static_cast<std::size_t>(kMitad); ++i) {
             bytesPrimera[i] = static_cast<base::Byte>(kSignos[a[i]]);
         }
-        for (auto& reg : registros) std::memcpy(reg.data(), bytesPrimera.data(), kMitad);
-        std::size_t par = 0;
-        if (filtrar) {
-            filtro.AportePrimera(a, primera, carrilesPrimera.data());
-            par = (a[kMitad - 2] * 3U + a[kMitad - 1]) * segundas.size();
-        }
-        for (std::size_t i = 0; i < segundas.size(); ++i) {
-            ++examinadas;
-            const bool pasa =
-                !filtrar || filtro.Condicionar(primera, carrilesPrimera.data(), aportes[par + i],
-                                               carriles.data() + (par + i) * palabras,
-                                               comb.rechazos);
-            if (pasa) cmb.Anadir(registros[i].data());
-            if (examinadas % kColumnasPorAviso == 0) {
-                progreso.Avance(examinadas, total);
-                if (progreso.Detenido()) {
-                    r.detenida = true;
-                    break;
-                }
+        // Cada kColumnasPorAviso columnas examinadas se avisa y se mira si hay que parar; si se
+        // para, cuentan solo las examinadas hasta ese aviso.
+        std::int64_t examinar = n;
+        const std::int64_t aviso = (examinadas / kColumnasPorAviso + 1) * kColumnasPorAviso;
+        if (examinadas + n >= aviso) {
+            progreso.Avance(aviso, total);
+            if (progreso.Detenido()) {
+                r.detenida = true;
+                examinar = aviso - examinadas;
             }
         }
+        const auto hasta = static_cast<std::size_t>(examinar);
+        if (bloques) {
+            bloques->Filtrar(a, hasta, pasan.data(), comb.rechazos);
+            for (std::size_t w = 0; w < pasan.size(); ++w) {
+                for (std::uint64_t bits = pasan[w]; bits != 0; bits &= bits - 1) {
+                    auto& reg = registros[w * 64 + static_cast<std::size_t>(std::countr_zero(bits))];
+                    std::memcpy(reg.data(), bytesPrimera.data(), kMitad);
+                    cmb.Anadir(reg.data());
+                }
+            }
+        } else {
+            for (std::size_t i = 0; i < hasta; ++i) {
+                std::memcpy(registros[i].data(), bytesPrimera.data(), kMitad);
+            }
+            cmb.AnadirBloque(registros.data()->data(), hasta);
+        }
+        examinadas += examinar;
         if (r.detenida) break;
     }
     cmb.Cerrar();
