@@ -1,0 +1,53 @@
+#!/usr/bin/env bash
+# Prepara la máquina (paquetes de Debian que falten), compila y, según la orden:
+#   ejecutar  arranca el programa de escritorio;
+#   pruebas   pasa todas las pruebas sin pantalla y, otra vez, las del núcleo con ASan y UBSan.
+# Se puede repetir: lo que ya está hecho no se vuelve a hacer.
+set -euo pipefail
+
+orden="${1:-ejecutar}"
+raiz="$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)"
+cd "$raiz"
+
+paquetes=(
+  cmake ninja-build g++ clang libclang-rt-14-dev pkg-config
+  qt6-base-dev qt6-base-dev-tools qt6-charts-dev libquazip1-qt6-dev libgl-dev
+  libgtest-dev libgmock-dev libbenchmark-dev fonts-dejavu-core
+)
+
+instalar_lo_que_falta() {
+  local faltan=()
+  for p in "${paquetes[@]}"; do
+    dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "install ok installed" || faltan+=("$p")
+  done
+  [ ${#faltan[@]} -eq 0 ] && return 0
+  echo "Instalando: ${faltan[*]}"
+  local sudo=""
+  [ "$(id -u)" -ne 0 ] && sudo="sudo"
+  $sudo apt-get update -qq
+  DEBIAN_FRONTEND=noninteractive $sudo apt-get install -y -qq --no-install-recommends "${faltan[@]}"
+}
+
+compilar() {
+  local preset="$1"
+  [ -f "build/$preset/build.ninja" ] || cmake --preset "$preset" >/dev/null
+  cmake --build --preset "$preset" -j "$(nproc)"
+}
+
+instalar_lo_que_falta
+case "$orden" in
+  ejecutar)
+    compilar dev
+    exec build/dev/app/quinteva "${@:2}"
+    ;;
+  pruebas)
+    compilar dev
+    QT_QPA_PLATFORM=offscreen ctest --preset dev -j "$(nproc)"
+    compilar asan
+    ctest --preset asan -j "$(nproc)"
+    ;;
+  *)
+    echo "Uso: scripts/quinteva.sh ejecutar|pruebas" >&2
+    exit 2
+    ;;
+esac
