@@ -343,28 +343,7 @@ void Guardar(Combinacion& comb, const std::filesystem::path& carpetaTrabajo,
     GuardarEn(comb, carpetaTrabajo, ajustes, true);
 }
 
-void Abrir(Combinacion& comb, const std::filesystem::path& carpetaTrabajo,
-           const base::Ajustes& ajustes) {
-    const auto& ruta = comb.ruta;
-    if (!std::filesystem::exists(ruta)) {
-        throw base::Error("No existe el archivo " + ruta.string());
-    }
-    const auto longitud = Longitud(ruta);
-    if (longitud == 0) {
-        throw base::Error("El archivo " + ruta.filename().string() +
-                          " está vacío: no es una Quiniela de Quinteva");
-    }
-    if (longitud != RegistroCabecera::kLongitud) {
-        throw base::Error("El archivo " + ruta.filename().string() +
-                          " no es una Quiniela de Quinteva: su cabecera ha de tener 5.189 bytes");
-    }
-    const auto cnd = RutaHermana(ruta, ".cnd");
-    const auto red = RutaHermana(ruta, ".red");
-    ComprobarColumnas(cnd);
-    ComprobarColumnas(red);
-    const RegistroCabecera r = RegistroCabecera::DeBytes(LeerTodo(ruta));
-
-    // Todo comprobado: desde aquí se carga el estado.
+void CargarCabecera(Combinacion& comb, const RegistroCabecera& r) {
     comb.panel = {};
     comb.panel.nombre = std::string(base::Recortar(r.nombre));
     comb.jornada = r.jornada;
@@ -405,6 +384,35 @@ void Abrir(Combinacion& comb, const std::filesystem::path& carpetaTrabajo,
             break;
         }
     }
+}
+
+RegistroCabecera LeerCabecera(const std::filesystem::path& ruta) {
+    if (!std::filesystem::exists(ruta)) {
+        throw base::Error("No existe el archivo " + ruta.string());
+    }
+    const auto longitud = Longitud(ruta);
+    if (longitud == 0) {
+        throw base::Error("El archivo " + ruta.filename().string() +
+                          " está vacío: no es una Quiniela de Quinteva");
+    }
+    if (longitud != RegistroCabecera::kLongitud) {
+        throw base::Error("El archivo " + ruta.filename().string() +
+                          " no es una Quiniela de Quinteva: su cabecera ha de tener 5.189 bytes");
+    }
+    return RegistroCabecera::DeBytes(LeerTodo(ruta));
+}
+
+void Abrir(Combinacion& comb, const std::filesystem::path& carpetaTrabajo,
+           const base::Ajustes& ajustes) {
+    const auto& ruta = comb.ruta;
+    const RegistroCabecera r = LeerCabecera(ruta);
+    const auto cnd = RutaHermana(ruta, ".cnd");
+    const auto red = RutaHermana(ruta, ".red");
+    ComprobarColumnas(cnd);
+    ComprobarColumnas(red);
+
+    // Todo comprobado: desde aquí se carga el estado.
+    CargarCabecera(comb, r);
     PonerPrecio(comb, ajustes);
 
     comb.totalGeneradas = comb.activasGeneradas = 0;

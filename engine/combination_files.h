@@ -44,6 +44,13 @@ struct RegistroCabecera {
 
 // La cabecera desde el estado (etiquetas del panel, base, condiciones) y al revés.
 RegistroCabecera CabeceraDe(const Combinacion& combinacion);
+// Lee la cabecera de un ".uxd" sin tocar nada más; lanza base::Error si el archivo no existe,
+// está vacío o no tiene exactamente 5.189 bytes.
+RegistroCabecera LeerCabecera(const std::filesystem::path& uxd);
+// Pasa la cabecera al estado: nombre, Jornada, conjunto jugado, base y Pleno, condiciones (con los
+// "1" posibles recalculados de la base), porcentajes y las cuentas del panel ("Guardada" "SI").
+// No toca los almacenes ni el precio.
+void CargarCabecera(Combinacion& combinacion, const RegistroCabecera& cabecera);
 // Rutas hermanas: la del ".uxd" sin sus 4 últimos caracteres más la extensión (".cnd", ".red").
 std::filesystem::path RutaHermana(const std::filesystem::path& uxd, std::string_view extension);
 
