@@ -56,6 +56,8 @@ PaginaBase::PaginaBase(QWidget* madre) : QWidget(madre) {
     arriba->addWidget(jornadas_);
     fecha_ = new QLabel(this);
     fecha_->setObjectName(QStringLiteral("FechaJornada"));
+    fecha_->setMinimumWidth(fecha_->fontMetrics().horizontalAdvance(QStringLiteral("00/00/00")) +
+                            8);
     arriba->addWidget(fecha_);
     arriba->addStretch();
     izquierda->addLayout(arriba);

@@ -9,7 +9,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QScrollArea>
 #include <QSpinBox>
 #include <QTabWidget>
 #include <QTableWidget>
@@ -180,11 +179,9 @@ QWidget* PaginaCondiciones::Pestana(const QString& titulo, const QString& casill
     });
     arriba->addWidget(reiniciar);
     caja->addLayout(arriba);
-    auto* desplazable = new QScrollArea(pestana);
-    desplazable->setWidget(contenido);
-    desplazable->setWidgetResizable(true);
-    desplazable->setFrameShape(QFrame::NoFrame);
-    caja->addWidget(desplazable);
+    contenido->setParent(pestana);
+    caja->addWidget(contenido);
+    caja->addStretch(1);
     pestanas_->addTab(pestana, titulo);
     return pestana;
 }

@@ -131,10 +131,18 @@ PanelInfo::PanelInfo(QWidget* madre) : QWidget(madre) {
     const QStringList recientes = Cabeceras(builders::kCabeceraRecientes);
     recientesLocal_ = Rejilla(this, QStringLiteral("RecientesLocal"), recientes);
     recientesVisitante_ = Rejilla(this, QStringLiteral("RecientesVisitante"), recientes);
-    auto* filas = new QHBoxLayout;
-    filas->addWidget(recientesLocal_);
-    filas->addWidget(recientesVisitante_);
-    caja->addLayout(filas, 2);
+    for (auto* r : {recientesLocal_, recientesVisitante_}) {
+        // Cinco partidos sin barras: las columnas de los equipos se reparten el ancho.
+        r->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        r->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        r->horizontalHeader()->setSectionResizeMode(1, QHeaderView::Stretch);
+        r->horizontalHeader()->setSectionResizeMode(2, QHeaderView::Stretch);
+        r->horizontalHeader()->setStretchLastSection(false);
+        r->setFixedHeight(r->verticalHeader()->defaultSectionSize() *
+                              static_cast<int>(builders::kPartidosRecientes) +
+                          r->horizontalHeader()->sizeHint().height() + 4);
+        caja->addWidget(r);
+    }
     clasificacion_ =
         Rejilla(this, QStringLiteral("Clasificacion"), Cabeceras(builders::kCabeceraClasificacion));
     caja->addWidget(clasificacion_, 3);

@@ -26,6 +26,8 @@ class PruebaCapturas : public QObject {
     static void Capturar(QWidget& ventana, const QString& nombre) {
         ventana.show();
         QVERIFY(QTest::qWaitForWindowExposed(&ventana));
+        // Que los cambios de tamaño pendientes se apliquen antes de dibujar.
+        QTest::qWait(30);
         const QImage imagen = ventana.grab().toImage();
         QVERIFY(!imagen.isNull());
         const QString ruta = Carpeta() + QLatin1Char('/') + nombre + QStringLiteral(".png");
