@@ -19,17 +19,6 @@ namespace {
 
 constexpr int kColumnasPorBoleto = 8;
 
-// Asignar a un campo entero redondea al par más cercano y desborda fuera de su rango.
-template <typename T>
-T Entero(double valor) {
-    const double redondeado = std::nearbyint(valor);
-    if (!(redondeado >= std::numeric_limits<T>::min() &&
-          redondeado <= std::numeric_limits<T>::max())) {
-        throw base::Desbordamiento();
-    }
-    return static_cast<T>(redondeado);
-}
-
 base::Error TiposDistintos() { return base::Error("No coinciden los tipos"); }
 
 double NumeroDe(const Valor& valor) {
@@ -74,24 +63,24 @@ std::string TextoFijo(std::string texto, std::size_t ancho) {
 }
 
 void FijarEnCabecera(CabeceraOficial& c, std::string_view clave, const Valor& v) {
-    if (clave == "idJuego") c.idJuego = Entero<std::int16_t>(NumeroDe(v));
+    if (clave == "idJuego") c.idJuego = EnteroDe<std::int16_t>(NumeroDe(v));
     if (clave == "idSorteo") c.idSorteo = TextoFijo(TextoDe(v), CabeceraOficial::kLongitudIdSorteo);
-    if (clave == "idReceptor") c.idReceptor = Entero<std::int32_t>(NumeroDe(v));
-    if (clave == "totalBoletos") c.totalBoletos = Entero<std::int16_t>(NumeroDe(v));
+    if (clave == "idReceptor") c.idReceptor = EnteroDe<std::int32_t>(NumeroDe(v));
+    if (clave == "totalBoletos") c.totalBoletos = EnteroDe<std::int16_t>(NumeroDe(v));
     if (clave == "totalApuestasSencillas") {
-        c.totalApuestasSencillas = Entero<std::int16_t>(NumeroDe(v));
+        c.totalApuestasSencillas = EnteroDe<std::int16_t>(NumeroDe(v));
     }
-    if (clave == "importeTotal") c.importeTotal = Entero<std::int32_t>(NumeroDe(v));
+    if (clave == "importeTotal") c.importeTotal = EnteroDe<std::int32_t>(NumeroDe(v));
     if (clave == "hash") c.hash = TextoDe(v);
 }
 
 void FijarEnBoleto(BoletoOficial& b, std::string_view clave, const Valor& v) {
-    if (clave == "seqBoleto") b.seqBoleto = Entero<std::int16_t>(NumeroDe(v));
+    if (clave == "seqBoleto") b.seqBoleto = EnteroDe<std::int16_t>(NumeroDe(v));
     if (clave == "combinacion") b.combinacion = TextoDe(v);
-    if (clave == "importe") b.importe = Entero<std::int16_t>(NumeroDe(v));
-    if (clave == "numApuestas") b.numApuestas = Entero<std::int16_t>(NumeroDe(v));
-    if (clave == "tipoSorteo") b.tipoSorteo = Entero<std::int16_t>(NumeroDe(v));
-    if (clave == "metodo") b.metodo = Entero<std::int16_t>(NumeroDe(v));
+    if (clave == "importe") b.importe = EnteroDe<std::int16_t>(NumeroDe(v));
+    if (clave == "numApuestas") b.numApuestas = EnteroDe<std::int16_t>(NumeroDe(v));
+    if (clave == "tipoSorteo") b.tipoSorteo = EnteroDe<std::int16_t>(NumeroDe(v));
+    if (clave == "metodo") b.metodo = EnteroDe<std::int16_t>(NumeroDe(v));
 }
 
 // El Pleno de un Boleto: el carácter dos antes del final de "combinacion" y el último.
@@ -140,10 +129,10 @@ std::string ColumnaConComas(const engine::Columna& columna) {
 BoletoOficial CerrarBoleto(std::int64_t numero, std::string texto, int enBoleto, float precio,
                            const engine::RegistroColumna& ultima) {
     BoletoOficial b;
-    b.seqBoleto = Entero<std::int16_t>(static_cast<double>(numero));
+    b.seqBoleto = EnteroDe<std::int16_t>(static_cast<double>(numero));
     b.combinacion = std::move(texto) + ":.1=" + ultima.pleno[0] + "-" + ultima.pleno[1];
     b.numApuestas = static_cast<std::int16_t>(enBoleto);
-    b.importe = Entero<std::int16_t>(static_cast<float>(enBoleto) * precio * 100.0F);
+    b.importe = EnteroDe<std::int16_t>(static_cast<float>(enBoleto) * precio * 100.0F);
     b.tipoSorteo = 1;
     b.metodo = 1;
     return b;
@@ -250,7 +239,7 @@ void ArbolGenerado(JsonBag& raiz, std::span<const engine::RegistroColumna> colum
 
 std::string ArbolGuardado(JsonBag& raiz, const CabeceraOficial& c) {
     // El Receptor va en 16 bits: por encima de 32.767 desborda.
-    const auto idReceptor = Entero<std::int16_t>(c.idReceptor);
+    const auto idReceptor = EnteroDe<std::int16_t>(c.idReceptor);
     raiz.Clear();
     JsonBag& asm_ = raiz.AddNewObject("asm");
     JsonBag& cabecera = asm_.AddNewObject("cabecera");
