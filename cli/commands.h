@@ -22,5 +22,8 @@ std::span<const Subcomando> Subcomandos();
 
 // Cada subcomando vive en su archivo.
 int Temporada(const Argumentos& argumentos, std::ostream& salida);
+int Oficial(const Argumentos& argumentos, std::ostream& salida);
+int JsonLeer(const Argumentos& argumentos, std::ostream& salida);
+int JsonModificar(const Argumentos& argumentos, std::ostream& salida);
 
 }  // namespace quinteva::cli
