@@ -43,26 +43,48 @@ std::size_t JsonBag::Posicion(std::int32_t indice) const {
     return static_cast<std::size_t>(indice - 1);
 }
 
-std::size_t JsonBag::PosicionDeNombre(const std::string& nombre) const {
+std::optional<std::size_t> JsonBag::Buscar(const std::string& nombre) const {
+    if (indice_.empty()) {
+        const auto encontrado = std::find(nombres_.begin(), nombres_.end(), nombre);
+        if (encontrado == nombres_.end()) return std::nullopt;
+        return static_cast<std::size_t>(encontrado - nombres_.begin());
+    }
     const auto encontrado = indice_.find(nombre);
-    if (encontrado == indice_.end()) throw ErrorDeClave();
+    if (encontrado == indice_.end()) return std::nullopt;
     return encontrado->second;
+}
+
+std::size_t JsonBag::PosicionDeNombre(const std::string& nombre) const {
+    const auto posicion = Buscar(nombre);
+    if (!posicion) throw ErrorDeClave();
+    return *posicion;
 }
 
 void JsonBag::Quitar(std::size_t posicion) {
     valores_.erase(valores_.begin() + static_cast<std::ptrdiff_t>(posicion));
     if (esArray_) return;
-    indice_.erase(nombres_[posicion]);
-    nombres_.erase(nombres_.begin() + static_cast<std::ptrdiff_t>(posicion));
-    for (auto& [nombre, lugar] : indice_) {
-        if (lugar > posicion) --lugar;
+    if (!indice_.empty()) {
+        indice_.erase(nombres_[posicion]);
+        for (auto& [nombre, lugar] : indice_) {
+            if (lugar > posicion) --lugar;
+        }
     }
+    nombres_.erase(nombres_.begin() + static_cast<std::ptrdiff_t>(posicion));
 }
 
 void JsonBag::Anadir(std::string nombre, Valor valor) {
+    // Un objeto del archivo oficial tiene de seis a ocho miembros: una sola reserva.
+    if (valores_.empty()) {
+        valores_.reserve(8);
+        if (!esArray_) nombres_.reserve(8);
+    }
     if (!esArray_) {
-        indice_.emplace(nombre, nombres_.size());
         nombres_.push_back(std::move(nombre));
+        if (!indice_.empty()) {
+            indice_.emplace(nombres_.back(), nombres_.size() - 1);
+        } else if (nombres_.size() >= kMiembrosSinIndice) {
+            for (std::size_t i = 0; i < nombres_.size(); ++i) indice_.emplace(nombres_[i], i);
+        }
     }
     valores_.push_back(std::move(valor));
 }
@@ -101,8 +123,7 @@ void JsonBag::Item(const Clave& clave, Valor valor) {
         throw ErrorJson(5, "Object values can only be changed or added by key not by index");
     }
     // Un nombre repetido se quita y se añade de nuevo: pasa al final del orden.
-    const auto existente = indice_.find(*nombre);
-    if (existente != indice_.end()) Quitar(existente->second);
+    if (const auto existente = Buscar(*nombre)) Quitar(*existente);
     Anadir(*nombre, std::move(valor));
 }
 
@@ -147,8 +168,7 @@ const std::vector<std::string>& JsonBag::NewEnum() const {
 void JsonBag::Remove(const Clave& clave) {
     if (const auto* nombre = std::get_if<std::string>(&clave)) {
         if (esArray_) throw ErrorJson(5, "Must remove by index for arrays");
-        const auto encontrado = indice_.find(*nombre);
-        if (encontrado != indice_.end()) Quitar(encontrado->second);
+        if (const auto encontrado = Buscar(*nombre)) Quitar(*encontrado);
         return;
     }
     // Solo un índice menor que Count: el último no se puede quitar así y no pasa nada.

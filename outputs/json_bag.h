@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -67,6 +68,7 @@ class JsonBag {
     friend class AnalizadorJson;
 
     std::size_t Posicion(std::int32_t indice) const;
+    std::optional<std::size_t> Buscar(const std::string& nombre) const;
     std::size_t PosicionDeNombre(const std::string& nombre) const;
     void Quitar(std::size_t posicion);
     void Anadir(std::string nombre, Valor valor);
@@ -74,7 +76,9 @@ class JsonBag {
 
     std::vector<std::string> nombres_;
     std::vector<Valor> valores_;
-    // Nombre -> posición, para que los objetos grandes no sean cuadráticos.
+    // Nombre -> posición, para que los objetos grandes no sean cuadráticos; en los pequeños (un
+    // Boleto tiene seis miembros) se busca en la lista, que es más rápido.
+    static constexpr std::size_t kMiembrosSinIndice = 16;
     std::unordered_map<std::string, std::size_t> indice_;
     bool esArray_ = false;
     bool decimal_ = false;

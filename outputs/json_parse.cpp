@@ -14,6 +14,7 @@ constexpr int kProfundidadMaxima = 2000;
 
 bool EsBlanco(char16_t c) { return c == u'\t' || c == u'\n' || c == u'\r' || c == u' '; }
 bool EsCifra(char16_t c) { return c >= u'0' && c <= u'9'; }
+bool Corriente(char16_t c) { return c >= 32 && c != u'"' && c != u'\\'; }
 char16_t Minuscula(char16_t c) { return c >= u'A' && c <= u'Z' ? c - u'A' + u'a' : c; }
 
 int ValorHex(char16_t c) {
@@ -156,7 +157,14 @@ class AnalizadorJson {
                 return DeUtf16(salida);
             }
             ++cursor_;
-            salida += c == u'\\' ? Escape() : c;
+            if (c == u'\\') {
+                salida += Escape();
+                continue;
+            }
+            // El resto del tramo sin comillas, barras ni controles va de una vez.
+            const std::int32_t inicio = cursor_ - 1;
+            while (!Fin() && Corriente(Actual())) ++cursor_;
+            salida.append(texto_, Lugar(inicio), static_cast<std::size_t>(cursor_ - inicio));
         }
     }
 

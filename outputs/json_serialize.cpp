@@ -19,6 +19,8 @@ bool SaleEscapada(char32_t u) {
            u == 65533 || (u >= 55296 && u <= 57343);
 }
 
+bool SeCopia(char c) { return c >= 32 && c <= 126 && c != '"' && c != '\\'; }
+
 void Escapar(std::string& salida, char32_t unidad) {
     char hex[16];
     std::snprintf(hex, sizeof hex, "\\u%04X", static_cast<unsigned>(unidad & 0xFFFF));
@@ -64,6 +66,11 @@ void Entrecomillar(std::string& salida, std::string_view texto) {
     salida += '"';
     std::size_t i = 0;
     while (i < texto.size()) {
+        // Los tramos que se copian tal cual van de una vez.
+        const std::size_t tramo = i;
+        while (i < texto.size() && SeCopia(texto[i])) ++i;
+        salida.append(texto, tramo, i - tramo);
+        if (i == texto.size()) break;
         const std::size_t inicio = i;
         const char32_t punto = LeerPunto(texto, i);
         if (punto >= 0x10000) {

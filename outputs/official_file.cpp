@@ -1,9 +1,9 @@
 #include "outputs/official_file.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstdlib>
 #include <fstream>
-#include <iterator>
 #include <limits>
 #include <type_traits>
 
@@ -117,13 +117,15 @@ void Recorrer(const JsonBag& bolsa, const std::string& nombre, bool esBoleto, st
     if (nombre == "apuestas") CompararPlenos(leido);
 }
 
-std::string ColumnaConComas(const engine::Columna& columna) {
-    std::string texto;
-    for (const engine::Signo s : columna) {
-        if (!texto.empty()) texto += ',';
-        texto += s;
+// ".", el lugar, "=" y los 14 signos separados por ",".
+void AnadirColumna(std::string& texto, int lugar, const engine::Columna& columna) {
+    texto += '.';
+    texto += static_cast<char>('0' + lugar);
+    texto += '=';
+    for (std::size_t i = 0; i < columna.size(); ++i) {
+        if (i > 0) texto += ',';
+        texto += columna[i];
     }
-    return texto;
 }
 
 BoletoOficial CerrarBoleto(std::int64_t numero, std::string texto, int enBoleto, float precio,
@@ -158,6 +160,12 @@ void AnadirBoletoGuardado(JsonBag& apuestas, const BoletoOficial& b) {
     o.Item("metodo", b.metodo);
 }
 
+// En ASCII Windows-1252 y UTF-8 coinciden byte a byte: el archivo oficial no necesita conversión.
+bool SoloAscii(std::string_view texto) {
+    return std::all_of(texto.begin(), texto.end(),
+                       [](char c) { return static_cast<unsigned char>(c) < 0x80; });
+}
+
 }  // namespace
 
 float PrecioColumna(const base::Ajustes& ajustes) {
@@ -187,7 +195,7 @@ std::vector<BoletoOficial> ConstruirBoletos(std::span<const engine::RegistroColu
             texto.clear();
             ++numero;
         }
-        texto += "." + std::to_string(enBoleto) + "=" + ColumnaConComas(r.columna);
+        AnadirColumna(texto, enBoleto, r.columna);
         if (enBoleto == kColumnasPorBoleto) {
             boletos.push_back(CerrarBoleto(numero, std::move(texto), enBoleto, precio, r));
             enBoleto = 0;
@@ -266,15 +274,19 @@ ArchivoOficialLeido RecorrerArchivoOficial(const JsonBag& raiz) {
 }
 
 void EscribirArchivoOficial(const std::filesystem::path& ruta, const JsonBag& raiz) {
-    base::EscribirAtomico(ruta, base::AWindows1252(raiz.JSON()));
+    const std::string texto = raiz.JSON();
+    base::EscribirAtomico(ruta, SoloAscii(texto) ? texto : base::AWindows1252(texto));
 }
 
 std::string LeerTextoArchivo(const std::filesystem::path& ruta) {
-    std::ifstream archivo(ruta, std::ios::binary);
+    std::ifstream archivo(ruta, std::ios::binary | std::ios::ate);
     if (!archivo) throw base::Error("No se puede leer el archivo " + ruta.string());
-    const std::string bytes{std::istreambuf_iterator<char>(archivo),
-                            std::istreambuf_iterator<char>()};
-    return base::DeWindows1252(bytes);
+    std::string bytes(static_cast<std::size_t>(archivo.tellg()), '\0');
+    archivo.seekg(0);
+    if (!archivo.read(bytes.data(), static_cast<std::streamsize>(bytes.size()))) {
+        throw base::Error("No se puede leer el archivo " + ruta.string());
+    }
+    return SoloAscii(bytes) ? bytes : base::DeWindows1252(bytes);
 }
 
 }  // namespace quinteva::outputs

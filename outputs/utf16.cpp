@@ -57,31 +57,45 @@ char32_t LeerPunto(std::string_view s, std::size_t& i) {
 }
 
 std::u16string AUtf16(std::string_view utf8) {
-    std::u16string salida;
-    salida.reserve(utf8.size());
+    // Nunca salen más unidades que bytes entran: se reserva y se escribe en su sitio.
+    std::u16string salida(utf8.size(), u'\0');
+    std::size_t n = 0;
     std::size_t i = 0;
     while (i < utf8.size()) {
+        if (static_cast<unsigned char>(utf8[i]) < 0x80) {
+            salida[n++] = static_cast<char16_t>(utf8[i++]);
+            continue;
+        }
         const char32_t cp = LeerPunto(utf8, i);
         if (cp < 0x10000) {
-            salida += static_cast<char16_t>(cp);
+            salida[n++] = static_cast<char16_t>(cp);
         } else {
-            salida += static_cast<char16_t>(0xD800 + ((cp - 0x10000) >> 10));
-            salida += static_cast<char16_t>(0xDC00 + ((cp - 0x10000) & 0x3FF));
+            salida[n++] = static_cast<char16_t>(0xD800 + ((cp - 0x10000) >> 10));
+            salida[n++] = static_cast<char16_t>(0xDC00 + ((cp - 0x10000) & 0x3FF));
         }
     }
+    salida.resize(n);
     return salida;
 }
 
 std::string DeUtf16(std::u16string_view utf16) {
     std::string salida;
     salida.reserve(utf16.size());
-    for (std::size_t i = 0; i < utf16.size(); ++i) {
+    std::size_t i = 0;
+    while (i < utf16.size()) {
+        // El tramo ASCII va de una vez.
+        const std::size_t tramo = i;
+        while (i < utf16.size() && utf16[i] < 0x80) ++i;
+        salida.append(utf16.begin() + static_cast<std::ptrdiff_t>(tramo),
+                      utf16.begin() + static_cast<std::ptrdiff_t>(i));
+        if (i == utf16.size()) break;
         const char16_t u = utf16[i];
         if (Alta(u) && i + 1 < utf16.size() && Baja(utf16[i + 1])) {
             AnadirUtf8(salida, 0x10000 + ((char32_t{u} - 0xD800) << 10) + (utf16[i + 1] - 0xDC00));
-            ++i;
+            i += 2;
         } else {
             AnadirUtf8(salida, u);
+            ++i;
         }
     }
     return salida;
