@@ -30,8 +30,8 @@ void GuardarReceptor(base::Ajustes& ajustes, const std::string& receptor) {
     ajustes.Guardar(base::kAplicacionPrograma, "Valores", "Receptor", receptor);
 }
 
-// Pasos 3 a 6: nombre, carpeta, sobrescritura y creación del archivo vacío. Desde aquí un abandono
-// deja un archivo vacío.
+// Nombre, carpeta, sobrescritura y creación del archivo vacío, comunes a las dos ventanas. Desde
+// aquí un abandono deja un archivo vacío.
 std::optional<std::filesystem::path> ElegirDestino(const std::string& nombre,
                                                    base::Dialogo& dialogo,
                                                    ResultadoGeneracion& resultado) {
@@ -62,7 +62,7 @@ std::optional<std::filesystem::path> ElegirDestino(const std::string& nombre,
     return archivo;
 }
 
-// Pasos 7 y 8: el límite de Boletos y la confirmación del tamaño.
+// El límite de Boletos y la confirmación del tamaño.
 bool ConfirmarTamano(double columnas, base::Dialogo& dialogo) {
     const double boletos = std::ceil(columnas / 8);
     if (boletos > kMaximoBoletos) {
@@ -161,7 +161,7 @@ struct JornadaYFecha {
     base::FechaHora fecha;
 };
 
-// Pasos 2 a 4 de la importación: Jornada, fecha y su confirmación, con sus vueltas atrás.
+// La importación pide Jornada y fecha y las confirma, con sus vueltas atrás.
 std::optional<JornadaYFecha> PedirJornadaYFecha(base::Dialogo& dialogo) {
     JornadaYFecha elegida;
     std::string textoFecha;

@@ -251,6 +251,10 @@ TEST(JsonBag, MitadesDeParIdaYVuelta) {
     EXPECT_EQ(std::get<std::string>(bolsa.Item(1)), "\xf0\x9f\x98\x80");
 }
 
+TEST(JsonBag, BytesQueNoSonUtf8SeLeenComoSustituto) {
+    EXPECT_EQ(Ida("[\"a\xff\xc3\"]"), "[\"a\\uFFFD\\uFFFD\"]");
+}
+
 TEST(JsonBag, PosicionesEnUnidadesUtf16) {
     JsonBag bolsa;
     EsperarErrorJson([&] { bolsa.JSON("{\"\xc3\xa9\xf0\x9f\x98\x80\":x}"); }, 13,

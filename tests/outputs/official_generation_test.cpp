@@ -63,7 +63,7 @@ TEST_F(GenerarDesdeLaPrincipal, EscribeElArchivoDeReferencia) {
     HastaElTamano()
         .Responder(Respuesta::Si)
         .Responder(Texto("siete"))
-        .Responder(Texto("150"))
+        .Responder(Texto("123"))
         .Responder(std::optional<std::string>())
         .Responder(Texto("7"));
     const ResultadoGeneracion r = Generar();
