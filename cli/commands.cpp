@@ -31,6 +31,22 @@ std::span<const Subcomando> Subcomandos() {
          "Las condiciones que no cumple una columna, una por línea (Condición, tabulador, Filtro).",
          {{"columna"}, {}},
          &Analizar},
+        {"oficial",
+         "oficial RUTA.uxd --receptor NNNNN --jornada N --salida DIR/NOMBRE [--anio AAAA]",
+         "Escribe DIR/NOMBRE.json, el archivo oficial de apuestas del juego jugado de la "
+         "Combinación (el año, de la fecha de su Jornada si no se da).",
+         {{"receptor", "jornada", "salida", "anio"}, {}},
+         &Oficial},
+        {"json-leer",
+         "json-leer F.json [--json]",
+         "Los datos que muestra \"Archivo JSON\" de un archivo oficial.",
+         {},
+         &JsonLeer},
+        {"json-modificar",
+         "json-modificar F.json [--jornada N] [--anio AAAA] [--receptor NNNNN] [--json]",
+         "Cambia Jornada, año o Receptor de un archivo oficial y lo guarda con su resumen nuevo.",
+         {{"jornada", "anio", "receptor"}, {}},
+         &JsonModificar},
     };
     return subcomandos;
 }
