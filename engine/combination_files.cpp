@@ -246,8 +246,10 @@ std::pair<std::int32_t, std::int32_t> CargarAlmacen(const std::filesystem::path&
         activas += bytes[i] == static_cast<Byte>(kActiva) ? 1 : 0;
     }
     std::filesystem::remove(almacen);
-    base::EscribirAtomico(almacen, std::string_view(reinterpret_cast<const char*>(bytes.data()),
-                                                    bytes.size()));
+    // Un vector vacío no tiene datos: se escribe un texto vacío de verdad.
+    base::EscribirAtomico(almacen, bytes.empty() ? std::string_view("")
+                                                 : std::string_view(reinterpret_cast<const char*>(bytes.data()),
+                                                                    bytes.size()));
     return {static_cast<std::int32_t>(bytes.size() / RegistroColumna::kLongitud), activas};
 }
 
