@@ -57,8 +57,8 @@ int main() {
         engine::Combinacion c;
         c.base = medicion::CatorceTriples();
         c.pleno = c.base.Pleno();
-        c.condiciones = condiciones ? medicion::TodasLasFamilias(c.base)
-                                    : engine::CondicionesIniciales(c.base);
+        c.condiciones =
+            condiciones ? medicion::TodasLasFamilias(c.base) : engine::CondicionesIniciales(c.base);
         double mejor = 1e9;
         std::int32_t generadas = 0;
         for (int vuelta = 0; vuelta < 3; ++vuelta) {
@@ -69,11 +69,14 @@ int main() {
         }
         // Copia de un archivo del mismo tamaño que el escrito.
         double copia = 1e9;
-        for (int vuelta = 0; vuelta < 3; ++vuelta) copia = std::min(copia, Copiar(cmb, carpeta / "copia.tmp"));
+        for (int vuelta = 0; vuelta < 3; ++vuelta)
+            copia = std::min(copia, Copiar(cmb, carpeta / "copia.tmp"));
         // Y de uno del tamaño de las 4.782.969 columnas (el de (a)).
-        std::printf("%s: %d columnas escritas de 4782969 en %.3f s; copia del mismo archivo (%.1f MB) %.3f s; razon %.2f\n",
-                    condiciones ? "(b) todas las familias y diez Grupos" : "(a) sin condiciones",
-                    generadas, mejor, static_cast<double>(generadas) * 17 / 1e6, copia, mejor / copia);
+        std::printf(
+            "%s: %d columnas escritas de 4782969 en %.3f s; copia del mismo archivo (%.1f MB) %.3f "
+            "s; razon %.2f\n",
+            condiciones ? "(b) todas las familias y diez Grupos" : "(a) sin condiciones", generadas,
+            mejor, static_cast<double>(generadas) * 17 / 1e6, copia, mejor / copia);
         if (condiciones) {
             // La referencia pedida: copiar un archivo del tamaño de la base entera.
             engine::Combinacion sin;
@@ -85,8 +88,10 @@ int main() {
             for (int vuelta = 0; vuelta < 3; ++vuelta) {
                 copiaEntera = std::min(copiaEntera, Copiar(cmb, carpeta / "copia.tmp"));
             }
-            std::printf("    frente a copiar 81,3 MB (el archivo de las 4.782.969 columnas): %.3f s; razon %.2f\n",
-                        copiaEntera, mejor / copiaEntera);
+            std::printf(
+                "    frente a copiar 81,3 MB (el archivo de las 4.782.969 columnas): %.3f s; razon "
+                "%.2f\n",
+                copiaEntera, mejor / copiaEntera);
         }
     }
     std::printf("Memoria maxima (VmHWM):%s\n", VmHWM().c_str());

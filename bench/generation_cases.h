@@ -43,8 +43,10 @@ inline engine::SetCondiciones TodasLasFamilias(const engine::QuinielaBase& base)
     c.minVariantes = 4, c.maxVariantes = 11;
     c.minSeg = {1, 1, 0, 1};
     c.maxSeg = {5, 4, 4, 7};
-    for (std::size_t i = 0; i < 9; ++i) c.maxPareja[i] = static_cast<std::uint8_t>(i % 4 == 0 ? 4 : 5);
-    for (std::size_t i = 0; i < 27; ++i) c.maxTrio[i] = static_cast<std::uint8_t>(i % 13 == 0 ? 2 : 3);
+    for (std::size_t i = 0; i < 9; ++i)
+        c.maxPareja[i] = static_cast<std::uint8_t>(i % 4 == 0 ? 4 : 5);
+    for (std::size_t i = 0; i < 27; ++i)
+        c.maxTrio[i] = static_cast<std::uint8_t>(i % 13 == 0 ? 2 : 3);
     for (std::size_t p = 0; p < 14; ++p) {
         c.sumasTabla[0][p] = static_cast<std::uint8_t>(40 + p % 3 * 5);
         c.sumasTabla[1][p] = static_cast<std::uint8_t>(30 - p % 3 * 5);
@@ -55,7 +57,8 @@ inline engine::SetCondiciones TodasLasFamilias(const engine::QuinielaBase& base)
     for (int g = 0; g < 10; ++g) {
         Grupo& grupo = c.grupos[static_cast<std::size_t>(g)];
         grupo.activo = true;
-        for (int k = 0; k < 4; ++k) grupo.partidos[static_cast<std::size_t>((g + k * 3) % 14)] = true;
+        for (int k = 0; k < 4; ++k)
+            grupo.partidos[static_cast<std::size_t>((g + k * 3) % 14)] = true;
         grupo.min = {0, 0, 0, 1};
         grupo.max = {3, 3, 3, 4};
         CalcularPosiblesGrupo(grupo, base);
@@ -65,7 +68,8 @@ inline engine::SetCondiciones TodasLasFamilias(const engine::QuinielaBase& base)
     for (int g = 0; g < 2; ++g) {
         GrupoAciertos& ac = c.gruposAc[static_cast<std::size_t>(g)];
         ac.activo = true;
-        for (int p = 0; p < 6; ++p) ac.signos[static_cast<std::size_t>(p + g * 6)] = {'1', 'X', ' '};
+        for (int p = 0; p < 6; ++p)
+            ac.signos[static_cast<std::size_t>(p + g * 6)] = {'1', 'X', ' '};
         ac.numPartidos = 6;
         ac.aciertosMin = 2;
         ac.aciertosMax = 6;
@@ -77,7 +81,7 @@ inline engine::SetCondiciones TodasLasFamilias(const engine::QuinielaBase& base)
     c.listas[0] = {0, 1, 2, 3};
     c.listas[1] = {0, 12, 13, 14};
     c.comparaciones[0] = {1, 1, 1, 4, 1, 2};  // unos de A >= unos de B - sin más
-    c.comparaciones[0].operador = 2;         // "<="
+    c.comparaciones[0].operador = 2;          // "<="
     c.comparaciones[0].listaDer = 2;
     c.longRep = {2, 2, 2, 3};
     c.limiteRep = {2, 2, 2, 1};

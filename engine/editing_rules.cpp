@@ -140,7 +140,8 @@ bool QuinComp(Combinacion& comb, const QuinielaBase& anterior, base::Dialogo& di
     for (std::size_t l = 0; l < 4; ++l) {
         for (int j = 1; j <= std::min<int>(c.numListas[l], kPartidos); ++j) {
             const int partido = c.listas[l][static_cast<std::size_t>(j)];
-            if (partido >= 1 && partido <= kPartidos && cambiado[static_cast<std::size_t>(partido - 1)]) {
+            if (partido >= 1 && partido <= kPartidos &&
+                cambiado[static_cast<std::size_t>(partido - 1)]) {
                 comparaciones = true;
             }
         }
@@ -297,7 +298,8 @@ bool ActivarSumas(Combinacion& comb, const std::array<FilaSumas, kPartidos>& rej
         return false;
     }
     for (std::size_t p = 0; p < kPartidos; ++p) {
-        for (std::size_t s = 0; s < 3; ++s) c.sumasTabla[s][p] = static_cast<std::uint8_t>(*rejilla[p][s]);
+        for (std::size_t s = 0; s < 3; ++s)
+            c.sumasTabla[s][p] = static_cast<std::uint8_t>(*rejilla[p][s]);
     }
     c.sumaMinima = static_cast<std::int16_t>(*minima);
     c.sumaMaxima = static_cast<std::int16_t>(*maxima);

@@ -52,7 +52,6 @@ const std::array<std::uint8_t, 1 << kPartidos>& kCuentas = TablaCuentas();
 
 inline int Cuenta(std::uint16_t m) { return kCuentas[m & kTodos]; }
 
-
 // Carriles fuera de sus límites: el bit alto de cada byte usado cuya cuenta no está en [min, max].
 // Con cuentas y límites por debajo de 128 la resta de un byte no pide prestado al siguiente.
 // Parejas 2, tríos 4, 50 Grupos 25 y 50 Grupos de Aciertos 7.
@@ -112,7 +111,6 @@ int RepeticionesVariantes(std::uint16_t unos, int largo) {
     return cuenta;
 }
 
-
 void Filtro::PonerCarril(std::size_t carril, int minimo, int maximo) {
     // Las cuentas no pasan de 14: un mínimo de 15 o más falla siempre, un máximo de 15 o más no.
     const auto recorte = [](int v) { return static_cast<std::uint64_t>(std::clamp(v, 0, 15)); };
@@ -134,7 +132,8 @@ Filtro::Filtro(const SetCondiciones& c) {
     generales_ = casilla(kCasillaGenerales);
     probarEquis_ = !(c.minEquis == c.posMinEquis && c.maxEquis == c.posMaxEquis);
     probarDoses_ = !(c.minDoses == c.posMinDoses && c.maxDoses == c.posMaxDoses);
-    probarVariantes_ = !(c.minVariantes == c.posMinVariantes && c.maxVariantes == c.posMaxVariantes);
+    probarVariantes_ =
+        !(c.minVariantes == c.posMinVariantes && c.maxVariantes == c.posMaxVariantes);
     limEquis_ = {c.minEquis, c.maxEquis};
     limDoses_ = {c.minDoses, c.maxDoses};
     limVariantes_ = {c.minVariantes, c.maxVariantes};
@@ -236,7 +235,7 @@ Filtro::Filtro(const SetCondiciones& c) {
     }
     auto celda = [](int signo, int lista) {
         return signo >= 1 && signo <= 3 && lista >= 1 && lista <= 4 ? (signo - 1) * 4 + lista - 1
-                                                                      : -1;
+                                                                    : -1;
     };
     for (const Comparacion& f : c.comparaciones) {
         if (f.activa == 0) continue;
@@ -370,8 +369,8 @@ bool Filtro::Condicionar(const Aporte& a, const std::uint64_t* ca, const Aporte&
     auto si = [](bool v, unsigned bit) { return v ? bit : 0U; };
 
     if (inter_ || interCons_) {
-        const auto iguales = static_cast<std::uint16_t>((m1 & (m1 >> 1)) | (mx & (mx >> 1)) |
-                                                        (m2 & (m2 >> 1)));
+        const auto iguales =
+            static_cast<std::uint16_t>((m1 & (m1 >> 1)) | (mx & (mx >> 1)) | (m2 & (m2 >> 1)));
         const auto cambios = static_cast<std::uint16_t>(~iguales & kLugares13);
         fallo |= si(inter_ && limInter_.Fuera(Cuenta(cambios)), kFInter);
         fallo |= si(interCons_ && limInterCons_.Fuera(rachas[cambios]), kFInterCons);
@@ -404,13 +403,15 @@ bool Filtro::Condicionar(const Aporte& a, const std::uint64_t* ca, const Aporte&
         // Dos Grupos por palabra, cuatro carriles cada uno. Se cuentan solo si alguno falla.
         std::array<std::uint64_t, kPalabrasMaximas> fg{};
         std::uint64_t alguno = 0;
-        for (std::size_t w = 0; w < palabrasGrupos_; ++w) alguno |= fg[w] = fuera(palabraGrupos_ + w);
+        for (std::size_t w = 0; w < palabrasGrupos_; ++w)
+            alguno |= fg[w] = fuera(palabraGrupos_ + w);
         if (alguno != 0) {
             constexpr std::uint64_t kPrimero = 0x0000000080808080ULL;
             constexpr std::uint64_t kSegundo = 0x8080808000000000ULL;
             for (std::size_t w = 0; w < palabrasGrupos_; ++w) {
                 const std::uint64_t f = fg[w];
-                if (gruposFallados == 0 && f != 0) primerGrupo = w * 2 + ((f & kPrimero) != 0 ? 0 : 1);
+                if (gruposFallados == 0 && f != 0)
+                    primerGrupo = w * 2 + ((f & kPrimero) != 0 ? 0 : 1);
                 gruposFallados += int{(f & kPrimero) != 0} + int{(f & kSegundo) != 0};
             }
         }
@@ -435,19 +436,31 @@ bool Filtro::Condicionar(const Aporte& a, const std::uint64_t* ca, const Aporte&
                                               a.listas[2] + b.listas[2]};
         auto celda = [&](int c) -> int {
             if (c < 0) return 0;
-            return static_cast<int>(tabla[static_cast<std::size_t>(c / 4)] >> (8 * (c % 4)) & 0xFFU);
+            return static_cast<int>(tabla[static_cast<std::size_t>(c / 4)] >> (8 * (c % 4)) &
+                                    0xFFU);
         };
         bool f = false;
         for (const ComparacionProbada& fila : comparacionesProbadas_) {
             const int x = celda(fila.izq);
             const int y = celda(fila.der);
             switch (fila.operador) {
-                case 1: f |= !(x < y); break;
-                case 2: f |= !(x <= y); break;
-                case 3: f |= !(x == y); break;
-                case 4: f |= !(x >= y); break;
-                case 5: f |= !(x > y); break;
-                default: break;
+                case 1:
+                    f |= !(x < y);
+                    break;
+                case 2:
+                    f |= !(x <= y);
+                    break;
+                case 3:
+                    f |= !(x == y);
+                    break;
+                case 4:
+                    f |= !(x >= y);
+                    break;
+                case 5:
+                    f |= !(x > y);
+                    break;
+                default:
+                    break;
             }
         }
         fallo |= si(f, kFComparaciones);
@@ -457,13 +470,27 @@ bool Filtro::Condicionar(const Aporte& a, const std::uint64_t* ca, const Aporte&
     if (fallo == 0) return true;
 rechazo:
     switch (fallo & (~fallo + 1)) {
-        case kFInter: r.porCondicion[2] += 1; break;
-        case kFInterCons: r.porCondicion[3] += 1; break;
-        case kFGenerales: r.porCondicion[0] += 1; break;
-        case kFSeguidos: r.porCondicion[1] += 1; break;
-        case kFParejas: r.porCondicion[4] += 1; break;
-        case kFTrios: r.porCondicion[5] += 1; break;
-        case kFSumas: r.porCondicion[6] += 1; break;
+        case kFInter:
+            r.porCondicion[2] += 1;
+            break;
+        case kFInterCons:
+            r.porCondicion[3] += 1;
+            break;
+        case kFGenerales:
+            r.porCondicion[0] += 1;
+            break;
+        case kFSeguidos:
+            r.porCondicion[1] += 1;
+            break;
+        case kFParejas:
+            r.porCondicion[4] += 1;
+            break;
+        case kFTrios:
+            r.porCondicion[5] += 1;
+            break;
+        case kFSumas:
+            r.porCondicion[6] += 1;
+            break;
         case kFGrupos:
             if (toleranciaGrupos_ == 0) {
                 r.grupo[static_cast<std::size_t>(indiceGrupo_[primerGrupo])] += 1;
@@ -478,8 +505,12 @@ rechazo:
                 r.tolGruposAciertos += 1;
             }
             break;
-        case kFComparaciones: r.porCondicion[7] += 1; break;
-        default: r.porCondicion[8] += 1; break;
+        case kFComparaciones:
+            r.porCondicion[7] += 1;
+            break;
+        default:
+            r.porCondicion[8] += 1;
+            break;
     }
     return false;
 }

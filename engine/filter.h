@@ -33,20 +33,27 @@ struct Aporte {
     std::array<std::uint32_t, 4> listas{};
 };
 
-// Condicionar: el SetCondiciones preparado una vez para probar millones de columnas. Las pruebas
-// van en su orden fijo (Interrupciones, consecutivas, Generales, Seguidos, Parejas, Tríos, Sumas,
-// Grupos, Grupos de Aciertos, Comparaciones, Repeticiones); la primera que rechaza suma uno a su
-// contador. Veredictos y contadores son los del algoritmo literal sobre el texto.
-//
-// Para ir deprisa la columna se ve como dos mitades: la generación calcula una vez el Aporte de
-// cada primera mitad y de cada segunda (para cada par de signos finales de la primera) y por
-// columna solo suma y compara.
+// Condicionar: el SetCondiciones preparado una vez para probar columnas sueltas (la generación
+// usa FiltroPorBloques). Las pruebas van en su orden fijo (Interrupciones, consecutivas,
+// Generales, Seguidos, Parejas, Tríos, Sumas, Grupos, Grupos de Aciertos, Comparaciones,
+// Repeticiones); la primera que rechaza suma uno a su contador. Veredictos y contadores son los
+// del algoritmo literal sobre el texto. Por dentro la columna son dos mitades (partidos 1 a 7 y
+// 8 a 14) cuyas cuentas se suman.
 class Filtro {
   public:
     explicit Filtro(const SetCondiciones& condiciones);
 
     // ColumnaAceptada: true si pasa; si no, suma 1 a un contador de rechazos.
     bool Condicionar(const Columna& columna, Rechazos& rechazos) const;
+
+    // Las familias que no se suman por mitades, cada una por separado (sin mirar su casilla):
+    // el filtro por bloques las usa para llenar sus cachés.
+    bool FallaInterConsecutivas(const Mascaras& columna) const;
+    bool FallaSeguidos(const Mascaras& columna) const;
+    bool FallaRepeticiones(const Mascaras& columna) const;
+
+  private:
+    friend class FiltroPorBloques;
 
     std::size_t Palabras() const { return palabras_; }
     // Aporte de los partidos 1 a 7; carriles ha de tener Palabras() palabras.
@@ -58,14 +65,6 @@ class Filtro {
     bool Condicionar(const Aporte& a, const std::uint64_t* carrilesA, const Aporte& b,
                      const std::uint64_t* carrilesB, Rechazos& rechazos) const;
 
-    // Las familias que no se suman por mitades, cada una por separado (sin mirar su casilla):
-    // el filtro por bloques las usa para llenar sus cachés.
-    bool FallaInterConsecutivas(const Mascaras& columna) const;
-    bool FallaSeguidos(const Mascaras& columna) const;
-    bool FallaRepeticiones(const Mascaras& columna) const;
-
-  private:
-    friend class FiltroPorBloques;
     struct Limites {
         int min = 0;
         int max = 0;

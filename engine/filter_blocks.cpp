@@ -49,7 +49,8 @@ int Aciertos(const SignosMitad& s, int desde, const GrupoAciertos& g) {
 }
 int Suma(const SignosMitad& s, int desde, const SetCondiciones& c) {
     int n = 0;
-    for (std::size_t i = 0; i < kM; ++i) n += c.sumasTabla[s[i]][static_cast<std::size_t>(desde) + i];
+    for (std::size_t i = 0; i < kM; ++i)
+        n += c.sumasTabla[s[i]][static_cast<std::size_t>(desde) + i];
     return n;
 }
 // Celda de Comparaciones (signo 1 a 3, lista 1 a 4) en una mitad; fuera de rango, 0.
@@ -144,23 +145,27 @@ FiltroPorBloques::FiltroPorBloques(const SetCondiciones& c, std::vector<SignosMi
     if (casilla(kCasillaInterrupciones)) {
         inter_ = {c.minInter, c.maxInter, {}};
         for (int ultimo = 0; ultimo < 3; ++ultimo) {
-            inter_.tablas.push_back(tabla([&](const SignosMitad& s) {
-                return Cambios(s) + (s[0] != ultimo ? 1 : 0);
-            }));
+            inter_.tablas.push_back(
+                tabla([&](const SignosMitad& s) { return Cambios(s) + (s[0] != ultimo ? 1 : 0); }));
         }
     }
     if (casilla(kCasillaGenerales)) {
         if (filtro_.probarEquis_) {
-            generales_.push_back({c.minEquis, c.maxEquis, {tabla([](const SignosMitad& s) { return Cuantos(s, 1); })}});
+            generales_.push_back({c.minEquis, c.maxEquis, {tabla([](const SignosMitad& s) {
+                                      return Cuantos(s, 1);
+                                  })}});
             claseGenerales_.push_back(1);
         }
         if (filtro_.probarDoses_) {
-            generales_.push_back({c.minDoses, c.maxDoses, {tabla([](const SignosMitad& s) { return Cuantos(s, 2); })}});
+            generales_.push_back({c.minDoses, c.maxDoses, {tabla([](const SignosMitad& s) {
+                                      return Cuantos(s, 2);
+                                  })}});
             claseGenerales_.push_back(2);
         }
         if (filtro_.probarVariantes_) {
-            generales_.push_back({c.minVariantes, c.maxVariantes,
-                                  {tabla([](const SignosMitad& s) { return kMitad - Cuantos(s, 0); })}});
+            generales_.push_back({c.minVariantes, c.maxVariantes, {tabla([](const SignosMitad& s) {
+                                      return kMitad - Cuantos(s, 0);
+                                  })}});
             claseGenerales_.push_back(kVariantes);
         }
     }
@@ -195,14 +200,17 @@ FiltroPorBloques::FiltroPorBloques(const SetCondiciones& c, std::vector<SignosMi
         }
     }
     if (casilla(kCasillaSumas)) {
-        sumas_ = {c.sumaMinima, c.sumaMaxima, {tabla([&](const SignosMitad& s) { return Suma(s, kMitad, c); })}};
+        sumas_ = {c.sumaMinima,
+                  c.sumaMaxima,
+                  {tabla([&](const SignosMitad& s) { return Suma(s, kMitad, c); })}};
     }
     for (int g : filtro_.indiceGrupo_) {
         const Grupo& grupo = c.grupos[static_cast<std::size_t>(g)];
         std::array<Carril, 4> carriles;
         for (int k = 0; k < 4; ++k) {
             carriles[static_cast<std::size_t>(k)] = {
-                grupo.min[static_cast<std::size_t>(k)], grupo.max[static_cast<std::size_t>(k)],
+                grupo.min[static_cast<std::size_t>(k)],
+                grupo.max[static_cast<std::size_t>(k)],
                 {tabla([&](const SignosMitad& s) { return EnGrupo(s, kMitad, grupo, k); })}};
         }
         grupos_.push_back(std::move(carriles));
@@ -210,19 +218,20 @@ FiltroPorBloques::FiltroPorBloques(const SetCondiciones& c, std::vector<SignosMi
     }
     for (int g : filtro_.indiceGrupoAc_) {
         const GrupoAciertos& grupo = c.gruposAc[static_cast<std::size_t>(g)];
-        gruposAc_.push_back({grupo.aciertosMin, grupo.aciertosMax,
-                             {tabla([&](const SignosMitad& s) { return Aciertos(s, kMitad, grupo); })}});
+        gruposAc_.push_back(
+            {grupo.aciertosMin, grupo.aciertosMax, {tabla([&](const SignosMitad& s) {
+                 return Aciertos(s, kMitad, grupo);
+             })}});
         indiceGrupoAc_.push_back(g);
     }
     if (casilla(kCasillaComparaciones)) {
         for (const Comparacion& f : c.comparaciones) {
             if (f.activa == 0) continue;
-            comparaciones_.push_back(
-                {f.signoIzq, f.listaIzq, f.signoDer, f.listaDer, f.operador,
-                 tabla([&](const SignosMitad& s) {
-                     return Celda(s, kMitad, c, f.signoIzq, f.listaIzq) -
-                            Celda(s, kMitad, c, f.signoDer, f.listaDer);
-                 })});
+            comparaciones_.push_back({f.signoIzq, f.listaIzq, f.signoDer, f.listaDer, f.operador,
+                                      tabla([&](const SignosMitad& s) {
+                                          return Celda(s, kMitad, c, f.signoIzq, f.listaIzq) -
+                                                 Celda(s, kMitad, c, f.signoDer, f.listaDer);
+                                      })});
         }
     }
 }
@@ -264,8 +273,9 @@ void FiltroPorBloques::Filtrar(const SignosMitad& a, std::size_t n, std::uint64_
     if (n < segundas_.size()) {
         for (std::size_t w = 0; w < palabras_; ++w) {
             const std::size_t desde = w * 64;
-            validas_[w] = n <= desde ? 0 : n >= desde + 64 ? ~std::uint64_t{0}
-                                                           : (std::uint64_t{1} << (n - desde)) - 1;
+            validas_[w] = n <= desde        ? 0
+                          : n >= desde + 64 ? ~std::uint64_t{0}
+                                            : (std::uint64_t{1} << (n - desde)) - 1;
             validas_[w] &= todas[w];
         }
     }
@@ -304,7 +314,8 @@ void FiltroPorBloques::Filtrar(const SignosMitad& a, std::size_t n, std::uint64_
         for (std::size_t i = 0; i < generales_.size(); ++i) {
             const int clase = claseGenerales_[i];
             const int p = clase == kVariantes ? kMitad - Cuantos(a, 0) : Cuantos(a, clase);
-            Fuera(generales_[i].tablas[0], generales_[i].min - p, generales_[i].max - p, fallan_.data());
+            Fuera(generales_[i].tablas[0], generales_[i].min - p, generales_[i].max - p,
+                  fallan_.data());
         }
         Anotar(fallan_.data(), rech, r.porCondicion[0]);
     }
@@ -333,7 +344,8 @@ void FiltroPorBloques::Filtrar(const SignosMitad& a, std::size_t n, std::uint64_
         limpiar();
         for (const auto& [i, carril] : trios_) {
             const int p = Trios(a, i / 9, i / 3 % 3, i % 3);
-            Fuera(carril.tablas[penultimo * 3U + ultimo], carril.min - p, carril.max - p, fallan_.data());
+            Fuera(carril.tablas[penultimo * 3U + ultimo], carril.min - p, carril.max - p,
+                  fallan_.data());
         }
         Anotar(fallan_.data(), rech, r.porCondicion[5]);
     }
@@ -409,15 +421,27 @@ void FiltroPorBloques::Filtrar(const SignosMitad& a, std::size_t n, std::uint64_
     if (!comparaciones_.empty() && !completas()) {
         limpiar();
         for (const FilaComparacion& f : comparaciones_) {
-            const int umbral = Celda(a, 0, c, f.signoDer, f.listaDer) - Celda(a, 0, c, f.signoIzq, f.listaIzq);
+            const int umbral =
+                Celda(a, 0, c, f.signoDer, f.listaDer) - Celda(a, 0, c, f.signoIzq, f.listaIzq);
             // Pasan las que cumplen: d < u, d <= u, d == u, d >= u, d > u.
             switch (f.operador) {
-                case 1: Fuera(f.diferencia, -99, umbral - 1, fallan_.data()); break;
-                case 2: Fuera(f.diferencia, -99, umbral, fallan_.data()); break;
-                case 3: Fuera(f.diferencia, umbral, umbral, fallan_.data()); break;
-                case 4: Fuera(f.diferencia, umbral, 99, fallan_.data()); break;
-                case 5: Fuera(f.diferencia, umbral + 1, 99, fallan_.data()); break;
-                default: break;
+                case 1:
+                    Fuera(f.diferencia, -99, umbral - 1, fallan_.data());
+                    break;
+                case 2:
+                    Fuera(f.diferencia, -99, umbral, fallan_.data());
+                    break;
+                case 3:
+                    Fuera(f.diferencia, umbral, umbral, fallan_.data());
+                    break;
+                case 4:
+                    Fuera(f.diferencia, umbral, 99, fallan_.data());
+                    break;
+                case 5:
+                    Fuera(f.diferencia, umbral + 1, 99, fallan_.data());
+                    break;
+                default:
+                    break;
             }
         }
         Anotar(fallan_.data(), rech, r.porCondicion[7]);

@@ -51,9 +51,9 @@ class FiltroPorBloques {
     template <typename Contador>
     void Anotar(const std::uint64_t* fallan, std::uint64_t* rechazadas, Contador& contador);
 
-    const std::vector<std::uint64_t>& EnCache(std::unordered_map<std::uint64_t, std::vector<std::uint64_t>>& cache,
-                                              std::uint64_t clave, const Mascaras& primera,
-                                              bool (Filtro::*falla)(const Mascaras&) const);
+    const std::vector<std::uint64_t>& EnCache(
+        std::unordered_map<std::uint64_t, std::vector<std::uint64_t>>& cache, std::uint64_t clave,
+        const Mascaras& primera, bool (Filtro::*falla)(const Mascaras&) const);
 
     SetCondiciones c_;
     Filtro filtro_;
@@ -62,7 +62,7 @@ class FiltroPorBloques {
     std::size_t palabras_ = 0;
     std::vector<std::uint64_t> validas_;
 
-    Carril inter_;  // tablas por último signo de la primera mitad
+    Carril inter_;                   // tablas por último signo de la primera mitad
     std::vector<Carril> generales_;  // X, 2, Variantes que se prueban (índice de clase aparte)
     std::vector<int> claseGenerales_;
     std::vector<std::pair<int, Carril>> parejas_;  // por último signo

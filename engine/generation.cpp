@@ -3,10 +3,10 @@
 #include <algorithm>
 #include <array>
 #include <bit>
-#include <optional>
 #include <cstdio>
 #include <cstring>
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include "base/error.h"
@@ -79,10 +79,12 @@ ResultadoGeneracion Generar(Combinacion& comb, const std::filesystem::path& carp
     for (int p = 0; p < kPartidos; ++p) {
         const auto u = static_cast<std::size_t>(p);
         for (int s = 0; s < 3; ++s) {
-            if (comb.base.Elegido(p + 1, s)) opciones[u][static_cast<std::size_t>(cuantas[u]++)] = s;
+            if (comb.base.Elegido(p + 1, s))
+                opciones[u][static_cast<std::size_t>(cuantas[u]++)] = s;
         }
-        if (cuantas[u] == 0) throw base::Error("La Quiniela Base no tiene signo en el partido " +
-                                               std::to_string(p + 1));
+        if (cuantas[u] == 0)
+            throw base::Error("La Quiniela Base no tiene signo en el partido " +
+                              std::to_string(p + 1));
     }
 
     const auto rutaCmb = carpetaTrabajo / kCmbTmp;
@@ -162,7 +164,8 @@ ResultadoGeneracion Generar(Combinacion& comb, const std::filesystem::path& carp
             bloques->Filtrar(a, hasta, pasan.data(), comb.rechazos);
             for (std::size_t w = 0; w < pasan.size(); ++w) {
                 for (std::uint64_t bits = pasan[w]; bits != 0; bits &= bits - 1) {
-                    auto& reg = registros[w * 64 + static_cast<std::size_t>(std::countr_zero(bits))];
+                    auto& reg =
+                        registros[w * 64 + static_cast<std::size_t>(std::countr_zero(bits))];
                     std::memcpy(reg.data(), bytesPrimera.data(), kMitad);
                     cmb.Anadir(reg.data());
                 }

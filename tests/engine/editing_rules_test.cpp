@@ -90,9 +90,10 @@ TEST(QuinComp, GruposAciertosYComparaciones) {
     c.base.Elegir(1, 1, false);  // el partido 1 pierde la X
     pruebas::DialogoGuionado d;
     QuinComp(c, antes, d);
-    EXPECT_EQ(d.Textos(), (std::vector<std::string>{"Ha quedado modificado el Grupo número 3.",
-                                                    "Ha quedado modificado el Grupo de Aciertos número 1.",
-                                                    std::string(kMsgComparacionesTocadas)}));
+    EXPECT_EQ(d.Textos(),
+              (std::vector<std::string>{"Ha quedado modificado el Grupo número 3.",
+                                        "Ha quedado modificado el Grupo de Aciertos número 1.",
+                                        std::string(kMsgComparacionesTocadas)}));
     EXPECT_EQ(c.condiciones.grupos[2].max[kEquis], 0);
     EXPECT_EQ(c.condiciones.gruposAc[0].signos[0][1], ' ');
     EXPECT_EQ(c.condiciones.comparaciones[0].activa, 0);
@@ -113,11 +114,15 @@ TEST(Limites, MinimoYMaximo) {
     c.panel.condicionada = 5;
     pruebas::DialogoGuionado d;
     auto& cond = c.condiciones;
-    EXPECT_FALSE(CambiarLimite(c, kCasillaParejas, cond.minPareja[0], cond.maxPareja[0], true, 14, d));
-    EXPECT_FALSE(CambiarLimite(c, kCasillaParejas, cond.minPareja[0], cond.maxPareja[0], false, -1, d));
-    EXPECT_EQ(d.Textos(), (std::vector<std::string>{std::string(kMsgMinimoMayor), std::string(kMsgMaximoMenor)}));
+    EXPECT_FALSE(
+        CambiarLimite(c, kCasillaParejas, cond.minPareja[0], cond.maxPareja[0], true, 14, d));
+    EXPECT_FALSE(
+        CambiarLimite(c, kCasillaParejas, cond.minPareja[0], cond.maxPareja[0], false, -1, d));
+    EXPECT_EQ(d.Textos(), (std::vector<std::string>{std::string(kMsgMinimoMayor),
+                                                    std::string(kMsgMaximoMenor)}));
     EXPECT_TRUE(c.panel.condicionada.has_value());
-    EXPECT_TRUE(CambiarLimite(c, kCasillaParejas, cond.minPareja[0], cond.maxPareja[0], true, 2, d));
+    EXPECT_TRUE(
+        CambiarLimite(c, kCasillaParejas, cond.minPareja[0], cond.maxPareja[0], true, 2, d));
     EXPECT_EQ(cond.minPareja[0], 2);
     EXPECT_TRUE(cond.casilla[kCasillaParejas]);
     EXPECT_FALSE(c.panel.condicionada.has_value());

@@ -18,7 +18,8 @@ namespace {
 Combinacion ConBase(const std::vector<std::string>& signos) {
     Combinacion c;
     for (int p = 1; p <= kPartidos; ++p) {
-        for (char s : signos[static_cast<std::size_t>(p - 1)]) c.base.Elegir(p, IndiceSigno(s), true);
+        for (char s : signos[static_cast<std::size_t>(p - 1)])
+            c.base.Elegir(p, IndiceSigno(s), true);
     }
     c.base.PonerGoles("2", "0");
     c.pleno = c.base.Pleno();
@@ -140,7 +141,8 @@ TEST(Generar, IgualQueElFiltroLiteral) {
         auto recorrer = [&](auto&& self, int p) -> void {
             if (p == 14) {
                 if (vistas++ >= examinar) return;
-                if (!filtrar || pruebas::CondicionarLiteral(col, c.condiciones, rechazos)) esperadas.push_back(col);
+                if (!filtrar || pruebas::CondicionarLiteral(col, c.condiciones, rechazos))
+                    esperadas.push_back(col);
                 return;
             }
             for (int k = 0; k < 3; ++k) {
@@ -152,7 +154,8 @@ TEST(Generar, IgualQueElFiltroLiteral) {
         recorrer(recorrer, 0);
         const auto regs = Leer(carpeta / "Cmb.tmp");
         ASSERT_EQ(regs.size(), esperadas.size());
-        for (std::size_t i = 0; i < regs.size(); ++i) ASSERT_EQ(TextoDeColumna(regs[i].columna), esperadas[i]);
+        for (std::size_t i = 0; i < regs.size(); ++i)
+            ASSERT_EQ(TextoDeColumna(regs[i].columna), esperadas[i]);
         EXPECT_EQ(c.rechazos, rechazos);
     }
 }
