@@ -1,29 +1,15 @@
 #include "outputs/utf16.h"
 
+#include "base/utf8.h"
+
 namespace quinteva::outputs {
 namespace {
+
+using base::AnadirUtf8;
 
 constexpr char32_t kSustituto = 0xFFFD;
 
 bool Continuacion(unsigned char c) { return (c & 0xC0) == 0x80; }
-
-void AnadirUtf8(std::string& salida, char32_t cp) {
-    if (cp < 0x80) {
-        salida += static_cast<char>(cp);
-    } else if (cp < 0x800) {
-        salida += static_cast<char>(0xC0 | (cp >> 6));
-        salida += static_cast<char>(0x80 | (cp & 0x3F));
-    } else if (cp < 0x10000) {
-        salida += static_cast<char>(0xE0 | (cp >> 12));
-        salida += static_cast<char>(0x80 | ((cp >> 6) & 0x3F));
-        salida += static_cast<char>(0x80 | (cp & 0x3F));
-    } else {
-        salida += static_cast<char>(0xF0 | (cp >> 18));
-        salida += static_cast<char>(0x80 | ((cp >> 12) & 0x3F));
-        salida += static_cast<char>(0x80 | ((cp >> 6) & 0x3F));
-        salida += static_cast<char>(0x80 | (cp & 0x3F));
-    }
-}
 
 bool Alta(char16_t u) { return u >= 0xD800 && u <= 0xDBFF; }
 bool Baja(char16_t u) { return u >= 0xDC00 && u <= 0xDFFF; }
