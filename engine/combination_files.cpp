@@ -1,5 +1,7 @@
 #include "engine/combination_files.h"
 
+#include "engine/pricing.h"
+
 #include <algorithm>
 #include <cstdio>
 #include <fstream>
@@ -213,20 +215,9 @@ void CopiarRegistros(const std::filesystem::path& origen, std::int32_t registros
     base::EscribirAtomico(destino, contenido);
 }
 
-// "PrecioApu15" de "Opciones", en precisión simple; admite la coma decimal.
-double PrecioColumna(const base::Ajustes& ajustes) {
-    std::string texto = ajustes.Leer(base::kAplicacion, "Opciones", "PrecioApu15", "0.75");
-    std::replace(texto.begin(), texto.end(), ',', '.');
-    try {
-        return static_cast<double>(std::stof(texto));
-    } catch (const std::exception&) {
-        return 0.75;
-    }
-}
-
 // Precio de la primera cuenta mayor que 0 entre al 13, al 12, al 11, al 10 y "Condicionada".
 void PonerPrecio(Combinacion& comb, const base::Ajustes& ajustes) {
-    const double precio = PrecioColumna(ajustes);
+    const double precio = static_cast<double>(PrecioColumna(ajustes));
     comb.panel.precio.reset();
     for (const auto& v : comb.panel.reducidas) {
         if (v.value_or(0) > 0) {

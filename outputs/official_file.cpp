@@ -168,16 +168,6 @@ bool SoloAscii(std::string_view texto) {
 
 }  // namespace
 
-float PrecioColumna(const base::Ajustes& ajustes) {
-    std::string texto = ajustes.Leer(base::kAplicacion, "Opciones", "PrecioApu15", "0.75");
-    for (char& c : texto) {
-        if (c == ',') c = '.';
-    }
-    char* fin = nullptr;
-    const float precio = std::strtof(texto.c_str(), &fin);
-    return fin == texto.c_str() ? 0.75F : precio;
-}
-
 std::string IdSorteo(std::string_view anio, double jornada) {
     return std::string(anio) + "/" + base::Formato(jornada, "00#");
 }

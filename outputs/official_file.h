@@ -56,9 +56,6 @@ struct DatosOficiales {
     float precio = 0.75F;
 };
 
-// El precio de una columna: "PrecioApu15" de la sección "Opciones", 0,75 por defecto.
-float PrecioColumna(const base::Ajustes& ajustes);
-
 // Año, "/" y la Jornada del archivo con formato "00#": "2024/007".
 std::string IdSorteo(std::string_view anio, double jornada);
 

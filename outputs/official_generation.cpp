@@ -1,5 +1,7 @@
 #include "outputs/official_generation.h"
 
+#include "engine/pricing.h"
+
 #include <cmath>
 #include <cstdio>
 #include <memory>
@@ -208,7 +210,7 @@ ResultadoGeneracion GenerarImportacion(const PeticionImportacion& peticion, base
                                        base::Ajustes& ajustes, ResultadoGeneracion& resultado) {
     // El campo solo admite cifras: aquí se mira la longitud, no las cifras.
     if (peticion.receptor.size() < 5) return Aviso(dialogo, kTextoReceptor, Campo::Receptor);
-    const float precio = PrecioColumna(ajustes);
+    const float precio = engine::PrecioColumna(ajustes);
     GuardarReceptor(ajustes, peticion.receptor);
     const auto destino = ElegirDestino(peticion.nombre, dialogo, resultado);
     if (!destino) return resultado;
@@ -228,7 +230,7 @@ ResultadoGeneracion GenerarImportacion(const PeticionImportacion& peticion, base
 
 ResultadoGeneracion GenerarDesdePrincipal(const PeticionPrincipal& peticion, base::Dialogo& dialogo,
                                           base::Ajustes& ajustes) {
-    const float precio = PrecioColumna(ajustes);
+    const float precio = engine::PrecioColumna(ajustes);
     // Solo se mira que sea un número, no su longitud.
     if (!EsNumerico(peticion.receptor)) return Aviso(dialogo, kTextoReceptor, Campo::Receptor);
     GuardarReceptor(ajustes, peticion.receptor);

@@ -7,6 +7,7 @@
 #include "base/bytes.h"
 #include "base/error.h"
 #include "base/text1252.h"
+#include "engine/combination_files.h"
 
 namespace quinteva::outputs {
 namespace {
@@ -20,21 +21,10 @@ std::vector<base::Byte> Contenido(const std::filesystem::path& ruta) {
 }  // namespace
 
 JuegoJugado LeerJuegoJugado(const std::filesystem::path& uxd) {
-    if (!std::filesystem::is_regular_file(uxd)) {
-        throw base::Error("No se encuentra la Combinación " + uxd.string());
-    }
-    const std::vector<base::Byte> cabecera = Contenido(uxd);
-    if (cabecera.size() < kLongitudCabecera) {
-        throw base::Error("El archivo " + uxd.string() + " no es una Combinación de Quinteva.");
-    }
-    JuegoJugado juego;
-    juego.jornada = base::TomarByte(cabecera, kPosicionJornada);
-    juego.juego = base::TomarTexto(cabecera, kPosicionJuego, 3);
-    // Como al guardar: se cortan los 4 últimos caracteres de la ruta y se añade la extensión.
-    const std::string ruta = uxd.string();
-    const std::string extension = base::MismoTexto(juego.juego, "cnd") ? ".cnd" : ".red";
-    juego.columnas = ruta.substr(0, ruta.size() - 4) + extension;
-    return juego;
+    const engine::RegistroCabecera cabecera = engine::LeerCabecera(uxd);
+    const bool condicionada = base::MismoTexto(cabecera.jugada, "cnd");
+    return {cabecera.jornada, cabecera.jugada,
+            engine::RutaHermana(uxd, condicionada ? ".cnd" : ".red")};
 }
 
 std::vector<engine::RegistroColumna> LeerColumnas(const std::filesystem::path& archivo,

@@ -19,12 +19,7 @@ struct JuegoJugado {
     std::filesystem::path columnas;
 };
 
-// La cabecera del ".uxd": 5.189 bytes; la Jornada en el byte 15 y el juego en los bytes 16 a 18.
-inline constexpr std::size_t kLongitudCabecera = 5189;
-inline constexpr std::size_t kPosicionJornada = 15;
-inline constexpr std::size_t kPosicionJuego = 16;
-
-// Error si el ".uxd" falta o es más corto que su registro.
+// Lee la cabecera del ".uxd" como al abrirla: Error si falta, está vacío o es corto.
 JuegoJugado LeerJuegoJugado(const std::filesystem::path& uxd);
 
 // Los registros de 17 bytes de un archivo de columnas, en orden; con soloActivas, los que tienen

@@ -114,15 +114,6 @@ TEST(ArchivoOficial, ImporteTotalConColaDelPrecioEnSingle) {
     EXPECT_NE(raiz.JSON().find("\"importeTotal\":90.0000013411045,"), std::string::npos);
 }
 
-TEST(ArchivoOficial, PrecioDeLosAjustes) {
-    pruebas::AjustesEnMemoria ajustes;
-    EXPECT_EQ(PrecioColumna(ajustes), 0.75F);
-    ajustes.Guardar("Quinteva-07", "Opciones", "PrecioApu15", "1,5");
-    EXPECT_EQ(PrecioColumna(ajustes), 1.5F);
-    ajustes.Guardar("Quinteva-07", "Opciones", "PrecioApu15", "0.5");
-    EXPECT_EQ(PrecioColumna(ajustes), 0.5F);
-}
-
 TEST(ArchivoOficial, RecorridoDeUnArchivoLeido) {
     JsonBag raiz;
     raiz.JSON(LeerTextoArchivo(pruebas::DatoDePrueba("oficial_generado.json")));

@@ -5,6 +5,7 @@
 #include <fstream>
 
 #include "base/error.h"
+#include "engine/combination_files.h"
 #include "tests/outputs/column_files.h"
 #include "tests/outputs/official_fixture.h"
 #include "tests/support/temp_folder.h"
@@ -12,15 +13,16 @@
 namespace quinteva::outputs {
 namespace {
 
-// Una cabecera de 5.189 bytes con un valor distinto en cada campo que se lee y basura alrededor.
+// Una cabecera con la Jornada y el juego dados, cortada a "longitud" bytes.
 void EscribirCabecera(const std::filesystem::path& ruta, std::uint8_t jornada,
-                      const std::string& juego, std::size_t longitud = kLongitudCabecera) {
-    std::string bytes(longitud, '\x5A');
-    if (longitud > kPosicionJuego + 3) {
-        bytes[kPosicionJornada] = static_cast<char>(jornada);
-        bytes.replace(kPosicionJuego, 3, juego);
-    }
-    std::ofstream(ruta, std::ios::binary) << bytes;
+                      const std::string& juego,
+                      std::size_t longitud = engine::RegistroCabecera::kLongitud) {
+    engine::RegistroCabecera cabecera;
+    cabecera.jornada = jornada;
+    cabecera.jugada = juego;
+    const auto bytes = cabecera.ABytes();
+    std::ofstream(ruta, std::ios::binary)
+        .write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(longitud));
 }
 
 TEST(JuegoJugado, LaCabeceraEligeElCndOElRed) {
@@ -41,13 +43,14 @@ TEST(JuegoJugado, LaCabeceraEligeElCndOElRed) {
 
 TEST(JuegoJugado, CabeceraCortaOFaltaDanError) {
     pruebas::CarpetaTemporal carpeta;
-    EscribirCabecera(carpeta / "q.uxd", 1, "cnd", kLongitudCabecera - 1);
+    EscribirCabecera(carpeta / "q.uxd", 1, "cnd", engine::RegistroCabecera::kLongitud - 1);
     try {
         LeerJuegoJugado(carpeta / "q.uxd");
         ADD_FAILURE();
     } catch (const base::Error& e) {
-        EXPECT_EQ(std::string(e.what()), "El archivo " + (carpeta / "q.uxd").string() +
-                                             " no es una Combinación de Quinteva.");
+        EXPECT_EQ(std::string(e.what()),
+                  "El archivo q.uxd no es una Quiniela de Quinteva: su cabecera ha de tener "
+                  "5.189 bytes");
     }
     EXPECT_THROW(LeerJuegoJugado(carpeta / "no.uxd"), base::Error);
 }
