@@ -104,7 +104,7 @@ class VentanaPrincipal : public QMainWindow {
     void PartidoElegido(int fila);
     void CambioCondiciones();
     void AnularResultados();
-    void QuinComp();
+    void QuinComp(const engine::QuinielaBase& anterior);
 
     void Generar();
     void FinGeneracion();
