@@ -670,7 +670,7 @@ void PaginaCondiciones::CrearSumas() {
     derecha->addLayout(limites);
     auto* automatico = new QPushButton(QStringLiteral("% &Automático"), contenido);
     automatico->setObjectName(QStringLiteral("BotonAutomatico"));
-    automatico->setEnabled(false);
+    connect(automatico, &QPushButton::clicked, this, &PaginaCondiciones::automatico);
     derecha->addWidget(automatico, 0, Qt::AlignLeft);
     derecha->addStretch();
     caja->addLayout(derecha, 1);
@@ -722,6 +722,19 @@ void PaginaCondiciones::CambioEnSumas(int fila, int signo) {
                 static_cast<std::uint8_t>(f[s].value_or(0));
     }
     if (!engine::ConSumas(rejillaSumas_)) comb_.condiciones.casilla[engine::kCasillaSumas] = false;
+    engine::AnularResultados(comb_);
+    Pintar();
+    emit cambiado();
+}
+
+void PaginaCondiciones::PonerPorcentajes(
+    const std::array<std::array<int, 3>, engine::kPartidos>& tabla) {
+    for (std::size_t p = 0; p < engine::kPartidos; ++p) {
+        for (std::size_t s = 0; s < 3; ++s) {
+            rejillaSumas_[p][s] = tabla[p][s];
+            comb_.condiciones.sumasTabla[s][p] = static_cast<std::uint8_t>(tabla[p][s]);
+        }
+    }
     engine::AnularResultados(comb_);
     Pintar();
     emit cambiado();

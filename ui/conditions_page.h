@@ -56,12 +56,17 @@ class PaginaCondiciones : public QWidget {
     // Vuelve a pintar lo que pudo cambiar (tras QuinComp), sin perder las celdas en blanco de
     // Sumas.
     void Pintar();
+    // "% &Automático": los porcentajes de 1, X, 2 de cada partido a la rejilla de Sumas y a
+    // SumasTabla.
+    void PonerPorcentajes(const std::array<std::array<int, 3>, engine::kPartidos>& tabla);
     // Al entrar en la página: una tolerancia vacía vale 0.
     void AlEntrar();
     QTabWidget* Pestanas() const { return pestanas_; }
 
   signals:
     void cambiado();
+    // Se pulsó "% &Automático": la ventana calcula los porcentajes con la temporada.
+    void automatico();
 
   private:
     // Un par mínimo/máximo de las condiciones visto desde sus dos listas: cómo se lee cada límite

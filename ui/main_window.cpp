@@ -20,6 +20,7 @@
 
 #include "base/error.h"
 #include "base/record_files.h"
+#include "builders/automatic_percent.h"
 #include "builders/match_info.h"
 #include "engine/analysis.h"
 #include "engine/combination_files.h"
@@ -153,6 +154,8 @@ void VentanaPrincipal::CrearPaginas() {
     connect(base_, &PaginaBase::golVisitado, this, &VentanaPrincipal::GolVisitado);
     connect(base_, &PaginaBase::partidoElegido, this, &VentanaPrincipal::PartidoElegido);
     connect(condiciones_, &PaginaCondiciones::cambiado, this, &VentanaPrincipal::CambioCondiciones);
+    connect(condiciones_, &PaginaCondiciones::automatico, this,
+            &VentanaPrincipal::PorcentajesAutomaticos);
     connect(generar_->generar, &QPushButton::clicked, this, &VentanaPrincipal::Generar);
     connect(generar_->detener, &QPushButton::clicked, this, &VentanaPrincipal::Detener);
     connect(generar_->info, &QPushButton::clicked, this, &VentanaPrincipal::Rechazadas);
@@ -609,6 +612,21 @@ void VentanaPrincipal::QuinComp(const engine::QuinielaBase& anterior) {
     Habilitar(kCondicion, true);
     Habilitar(kGenerar, true);
     condiciones_->Pintar();
+}
+
+void VentanaPrincipal::PorcentajesAutomaticos() {
+    std::array<std::string, engine::kPartidos> partidos;
+    std::array<int, engine::kPartidos> divisiones{};
+    for (std::size_t p = 0; p < partidos.size(); ++p) {
+        partidos[p] = comb_.base.Equipos(static_cast<int>(p) + 1);
+        divisiones[p] = divisiones_[p];
+    }
+    try {
+        condiciones_->PonerPorcentajes(builders::PorcentajesAutomaticos(
+            temporada_.carpetaTemporada, partidos, divisiones, s_.ajustes));
+    } catch (const std::exception& e) {
+        Fallo(e);
+    }
 }
 
 void VentanaPrincipal::CambioCondiciones() {

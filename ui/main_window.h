@@ -103,6 +103,7 @@ class VentanaPrincipal : public QMainWindow {
     void GolVisitado(int lado);
     void PartidoElegido(int fila);
     void CambioCondiciones();
+    void PorcentajesAutomaticos();
     void AnularResultados();
     void QuinComp(const engine::QuinielaBase& anterior);
 

@@ -4,7 +4,9 @@
 #include <QSpinBox>
 #include <QtTest>
 
+#include "builders/automatic_percent.h"
 #include "engine/editing_rules.h"
+#include "seasons/startup.h"
 #include "tests/ui/window_fixture.h"
 
 using namespace quinteva;
@@ -233,6 +235,38 @@ class PruebaEdicionCondiciones : public QObject {
         QCOMPARE(Hijo<QLabel>(*v, "SumaMasBaja")->text(), QString());
         QVERIFY(!Hijo<QLineEdit>(*v, "SumaMinima")->isEnabled());
         QCOMPARE(Hijo<QLineEdit>(*v, "SumaMinima")->text(), QString());
+    }
+
+    void ElPorcentajeAutomaticoLlenaSumasDesdeLaTemporada() {
+        pruebas::Instalacion inst;
+        auto v = EnCondiciones(inst);
+        QTest::mouseClick(Hijo<QPushButton>(*v, "BotonAutomatico"), Qt::LeftButton);
+        std::array<std::string, engine::kPartidos> partidos;
+        std::array<int, engine::kPartidos> divisiones{};
+        const auto jornada = seasons::LeerJornadaQuiniela(v->Temporada().carpetaTemporada, 25);
+        for (std::size_t p = 0; p < engine::kPartidos; ++p) {
+            partidos[p] = jornada.partidos[p].equipos;
+            divisiones[p] = jornada.partidos[p].division;
+        }
+        const auto esperada = builders::PorcentajesAutomaticos(v->Temporada().carpetaTemporada,
+                                                               partidos, divisiones, inst.ajustes);
+        const auto& tabla = v->Combinacion().condiciones.sumasTabla;
+        auto* sumas = Hijo<QTableWidget>(*v, "RejillaSumas");
+        int baja = 0;
+        for (std::size_t p = 0; p < engine::kPartidos; ++p) {
+            QCOMPARE(tabla[0][p] + tabla[1][p] + tabla[2][p], 100);
+            for (std::size_t s = 0; s < 3; ++s) {
+                QCOMPARE(int{tabla[s][p]}, esperada[p][s]);
+                QCOMPARE(sumas->item(static_cast<int>(p), static_cast<int>(s) + 1)->text(),
+                         QString::number(esperada[p][s]));
+            }
+            baja += std::min({esperada[p][0], esperada[p][1], esperada[p][2]});
+        }
+        // La demo tiene partidos de las dos divisiones: no todo es 50, 30, 20.
+        QVERIFY(std::any_of(esperada.begin(), esperada.end(),
+                            [](const auto& f) { return f != builders::kPorcentajesSinDivision; }));
+        QCOMPARE(Hijo<QLabel>(*v, "SumaMasBaja")->text(), QString::number(baja));
+        QVERIFY(Hijo<QLineEdit>(*v, "SumaMinima")->isEnabled());
     }
 
     void ElPrecioSaleAlAcabarLaGeneracion() {
