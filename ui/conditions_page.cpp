@@ -15,9 +15,9 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "engine/condition_grids.h"
 #include "engine/conditions.h"
 #include "engine/editing_rules.h"
-#include "engine/range_grid.h"
 
 namespace quinteva::ui {
 namespace {
@@ -565,18 +565,8 @@ void PaginaCondiciones::CrearGruposAciertos() {
         Pintar();
     });
     connect(partidosGrupoAc_, &QTableWidget::cellClicked, this, [this](int fila, int columna) {
-        if (columna == 0 || !comb_.base.Elegido(fila + 1, columna - 1)) return;
         auto& g = comb_.condiciones.gruposAc[static_cast<std::size_t>(grupoAc_)];
-        auto& celda =
-            g.signos[static_cast<std::size_t>(fila)][static_cast<std::size_t>(columna - 1)];
-        celda = celda == ' ' ? engine::kSignos[static_cast<std::size_t>(columna - 1)] : ' ';
-        int n = 0;
-        for (int p = 0; p < engine::kPartidos; ++p) n += g.EsDelGrupo(p) ? 1 : 0;
-        g.numPartidos = static_cast<std::uint8_t>(n);
-        g.aciertosMin = 0;
-        g.aciertosMax = g.numPartidos;
-        g.fallosMin = 0;
-        g.fallosMax = g.numPartidos;
+        if (columna == 0 || !engine::AlternarSignoGrupoAc(g, comb_.base, fila, columna - 1)) return;
         Pintar();
         emit cambiado();
     });

@@ -7,8 +7,8 @@
 
 #include "base/dialog.h"
 #include "engine/combination.h"
+#include "engine/condition_grids.h"
 #include "engine/editing_rules.h"
-#include "engine/range_grid.h"
 
 class QCheckBox;
 class QGridLayout;

@@ -118,6 +118,36 @@ class PruebaEdicionCondiciones : public QObject {
         QCOMPARE(int{c.maxEquis}, 3);
     }
 
+    void LosGruposTocadosPorLaBaseSeAjustanYAvisanCadaUno() {
+        pruebas::Instalacion inst;
+        auto v = EnCondiciones(inst);
+        pruebas::Pulsar(Hijo<QTableWidget>(*v, "PartidosGrupo"), 0, 1);
+        pruebas::Pulsar(Hijo<QTableWidget>(*v, "PartidosGrupo"), 1, 1);
+        // "X" del Grupo: de 0 a 2 posibles; pulsar el 0 deja 1 a 2 y activa el Grupo.
+        pruebas::Pulsar(Hijo<QTableWidget>(*v, "LimitesGrupo"), 0, 2);
+        const auto& c = v->Combinacion().condiciones;
+        QVERIFY(c.grupos[0].activo);
+        QCOMPARE(int{c.grupos[0].min[engine::kEquis]}, 1);
+        auto* ac = Hijo<QTableWidget>(*v, "PartidosGrupoAc");
+        pruebas::Pulsar(ac, 0, 2);  // la "X" del partido 1
+        pruebas::Pulsar(ac, 2, 3);  // el "2" del partido 3
+        pruebas::Pulsar(ac, 4, 3);  // el partido 5 no tiene "2": no entra
+        QCOMPARE(int{c.gruposAc[0].numPartidos}, 2);
+        Hijo<QCheckBox>(*v, "Casilla6")->click();
+        QVERIFY(c.gruposAc[0].activo);
+        const std::size_t marca = inst.dialogo.Registro().size();
+        QuitarEquisDelPartido1(*v);
+        QCOMPARE(
+            Desde(inst.dialogo, marca),
+            (std::vector<std::string>{"Ha quedado modificado el Grupo número 1.",
+                                      "Ha quedado modificado el Grupo de Aciertos número 1."}));
+        QCOMPARE(int{c.grupos[0].posMax[engine::kEquis]}, 1);
+        QCOMPARE(int{c.grupos[0].min[engine::kEquis]}, 1);
+        QCOMPARE(int{c.gruposAc[0].numPartidos}, 1);
+        QCOMPARE(ac->item(0, 2)->text(), QString());
+        QCOMPARE(ac->item(2, 3)->text(), QStringLiteral("2"));
+    }
+
     void UnaComparacionTocadaPorLaBaseSeApagaConUnAviso() {
         pruebas::Instalacion inst;
         auto v = EnCondiciones(inst);

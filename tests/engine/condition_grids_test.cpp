@@ -1,4 +1,4 @@
-#include "engine/range_grid.h"
+#include "engine/condition_grids.h"
 
 #include <gtest/gtest.h>
 
@@ -60,6 +60,35 @@ TEST(PulsarAciertosFallos, SinPartidosNoHayFilaPosibleMasQueLaCero) {
     GrupoAciertos g;
     PulsarAciertosFallos(g, 0, 3);
     EXPECT_EQ(g, GrupoAciertos{});
+}
+
+TEST(AlternarSignoGrupoAc, SoloLosSignosDeLaBaseYLosLimitesAbarcanTodo) {
+    QuinielaBase base;
+    base.Elegir(1, 0, true);
+    base.Elegir(1, 1, true);
+    base.Elegir(2, 2, true);
+    GrupoAciertos g;
+    EXPECT_FALSE(AlternarSignoGrupoAc(g, base, 0, 2));  // el "2" no está en el partido 1
+    EXPECT_EQ(g, GrupoAciertos{});
+    EXPECT_TRUE(AlternarSignoGrupoAc(g, base, 0, 0));
+    EXPECT_TRUE(AlternarSignoGrupoAc(g, base, 0, 1));
+    EXPECT_TRUE(AlternarSignoGrupoAc(g, base, 1, 2));
+    EXPECT_EQ(g.signos[0], (std::array<char, 3>{'1', 'X', ' '}));
+    EXPECT_EQ(g.signos[1], (std::array<char, 3>{' ', ' ', '2'}));
+    EXPECT_EQ(g.numPartidos, 2);
+    EXPECT_EQ(g.aciertosMax, 2);
+    EXPECT_EQ(g.fallosMax, 2);
+    g.aciertosMin = 1;
+    g.fallosMax = 1;
+    // Quitar los dos signos del partido 1 lo saca del grupo.
+    EXPECT_TRUE(AlternarSignoGrupoAc(g, base, 0, 0));
+    EXPECT_TRUE(AlternarSignoGrupoAc(g, base, 0, 1));
+    EXPECT_EQ(g.numPartidos, 1);
+    EXPECT_EQ(g.aciertosMin, 0);
+    EXPECT_EQ(g.aciertosMax, 1);
+    EXPECT_EQ(g.fallosMin, 0);
+    EXPECT_EQ(g.fallosMax, 1);
+    EXPECT_FALSE(AlternarSignoGrupoAc(g, base, 14, 0));
 }
 
 }  // namespace

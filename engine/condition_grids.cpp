@@ -1,4 +1,4 @@
-#include "engine/range_grid.h"
+#include "engine/condition_grids.h"
 
 #include <algorithm>
 
@@ -34,6 +34,23 @@ void PulsarAciertosFallos(GrupoAciertos& g, int columna, int fila) {
     }
     g.fallosMin = static_cast<std::uint8_t>(n - g.aciertosMax);
     g.fallosMax = static_cast<std::uint8_t>(n - g.aciertosMin);
+}
+
+bool AlternarSignoGrupoAc(GrupoAciertos& g, const QuinielaBase& base, int partido0, int signo) {
+    if (partido0 < 0 || partido0 >= kPartidos || signo < 0 || signo > 2 ||
+        !base.Elegido(partido0 + 1, signo)) {
+        return false;
+    }
+    auto& celda = g.signos[static_cast<std::size_t>(partido0)][static_cast<std::size_t>(signo)];
+    celda = celda == ' ' ? kSignos[static_cast<std::size_t>(signo)] : ' ';
+    int n = 0;
+    for (int p = 0; p < kPartidos; ++p) n += g.EsDelGrupo(p) ? 1 : 0;
+    g.numPartidos = static_cast<std::uint8_t>(n);
+    g.aciertosMin = 0;
+    g.aciertosMax = g.numPartidos;
+    g.fallosMin = 0;
+    g.fallosMax = g.numPartidos;
+    return true;
 }
 
 }  // namespace quinteva::engine
