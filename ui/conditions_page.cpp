@@ -5,17 +5,19 @@
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QHeaderView>
-#include <QIntValidator>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QRegularExpressionValidator>
 #include <QSpinBox>
 #include <QTabWidget>
 #include <QTableWidget>
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "engine/condition_grids.h"
 #include "engine/conditions.h"
+#include "engine/editing_rules.h"
 
 namespace quinteva::ui {
 namespace {
@@ -26,26 +28,8 @@ const QColor kVerde(120, 200, 120);
 const QColor kMagenta(220, 110, 220);
 const QColor kGris(200, 200, 200);
 
-constexpr std::string_view kMinMayor = "El Mínimo no puede ser mayor que el Máximo.";
-constexpr std::string_view kMaxMenor = "El Máximo no puede ser menor que el Mínimo.";
-constexpr std::string_view kToleranciaGrupos =
-    "No tiene sentido que el número de Grupos fallados pueda ser mayor que el número de Grupos "
-    "creados.";
-constexpr std::string_view kToleranciaGruposAc =
-    "No tiene sentido que el número de Grupos de Aciertos fallados pueda ser mayor que el número "
-    "de Grupos creados.";
-
 const std::array<QString, 4> kClases = {QStringLiteral("1"), QStringLiteral("X"),
                                         QStringLiteral("2"), QStringLiteral("V")};
-
-template <typename T>
-std::function<int()> Leer(const T& campo) {
-    return [&campo] { return static_cast<int>(campo); };
-}
-template <typename T>
-std::function<void(int)> Poner(T& campo) {
-    return [&campo](int v) { campo = static_cast<T>(v); };
-}
 
 QTableWidget* TablaFija(int filas, const QStringList& columnas, QWidget* madre) {
     auto* t = new QTableWidget(filas, static_cast<int>(columnas.size()), madre);
@@ -85,23 +69,6 @@ QString Q(const std::string& t) { return QString::fromStdString(t); }
 
 }  // namespace
 
-RejillaRangos::Rango PulsarRango(RejillaRangos::Rango r, int fila) {
-    if (fila < r.posMin || fila > r.posMax) return r;
-    if (fila < r.min || fila > r.max) {
-        r.min = std::min(r.min, fila);
-        r.max = std::max(r.max, fila);
-    } else if (r.min == r.max) {
-        return r;
-    } else if (fila == r.min) {
-        r.min = fila + 1;
-    } else if (fila == r.max) {
-        r.max = fila - 1;
-    } else {
-        r.min = fila;
-    }
-    return r;
-}
-
 RejillaRangos::RejillaRangos(const QStringList& columnas, int filas, const QColor& elegido,
                              QWidget* madre)
     : QWidget(madre), elegido_(elegido) {
@@ -116,9 +83,9 @@ RejillaRangos::RejillaRangos(const QStringList& columnas, int filas, const QColo
     });
 }
 
-void RejillaRangos::Mostrar(const std::vector<Rango>& rangos) {
+void RejillaRangos::Mostrar(const std::vector<engine::RangoRejilla>& rangos) {
     for (std::size_t c = 0; c < rangos.size(); ++c) {
-        const Rango& r = rangos[c];
+        const engine::RangoRejilla& r = rangos[c];
         for (int f = 0; f < tabla_->rowCount(); ++f) {
             const bool posible = f >= r.posMin && f <= r.posMax;
             const bool elegida = posible && f >= r.min && f <= r.max;
@@ -164,6 +131,11 @@ QWidget* PaginaCondiciones::Pestana(const QString& titulo, const QString& casill
         casillas_[static_cast<std::size_t>(familia)] = c;
         connect(c, &QCheckBox::toggled, this, [this, familia](bool on) {
             if (pintando_) return;
+            // Sumas se enciende solo con límites válidos.
+            if (familia == engine::kCasillaSumas && on) {
+                ActivarSumas();
+                return;
+            }
             comb_.condiciones.casilla[static_cast<std::size_t>(familia)] = on;
             emit cambiado();
         });
@@ -188,39 +160,39 @@ QWidget* PaginaCondiciones::Pestana(const QString& titulo, const QString& casill
 
 void PaginaCondiciones::Marcar(engine::Casilla familia) {
     comb_.condiciones.casilla[static_cast<std::size_t>(familia)] = true;
-    Mostrar();
+    Pintar();
     emit cambiado();
 }
 
+template <typename T>
+PaginaCondiciones::Par PaginaCondiciones::ParDe(engine::Casilla familia, T& min, T& max) {
+    return {[&min, &max](bool esMinimo) { return static_cast<int>(esMinimo ? min : max); },
+            [this, familia, &min, &max](bool esMinimo, int valor) {
+                return engine::CambiarLimite(comb_, familia, min, max, esMinimo, valor, dialogo_);
+            }};
+}
+
 void PaginaCondiciones::ParDeListas(QGridLayout* rejilla, int fila, int columna,
-                                    std::function<std::pair<int, int>()> valores, Campo min,
-                                    Campo max, engine::Casilla familia, const QString& nombre) {
+                                    std::function<std::pair<int, int>()> valores, Par par,
+                                    const QString& nombre) {
     auto* madre = rejilla->parentWidget();
     QComboBox* listas[2] = {new QComboBox(madre), new QComboBox(madre)};
     listas[0]->setObjectName(QStringLiteral("Min") + nombre);
     listas[1]->setObjectName(QStringLiteral("Max") + nombre);
     for (int i = 0; i < 2; ++i) {
         rejilla->addWidget(listas[i], fila, columna + i);
-        const Campo propio = i == 0 ? min : max;
-        const Campo otro = i == 0 ? max : min;
+        const bool esMinimo = i == 0;
+        // Rechazado, la lista vuelve a mostrar su valor de antes.
         connect(listas[i], &QComboBox::activated, this, [=, this](int indice) {
-            const int v = listas[i]->itemData(indice).toInt();
-            if (i == 0 && v > otro.leer()) {
-                dialogo_.Mensaje(kMinMayor, base::Icono::Aviso);
-            } else if (i == 1 && v < otro.leer()) {
-                dialogo_.Mensaje(kMaxMenor, base::Icono::Aviso);
-            } else {
-                propio.poner(v);
-                Marcar(familia);
-                return;
-            }
-            Mostrar();
+            const bool vale = par.cambiar(esMinimo, listas[i]->itemData(indice).toInt());
+            Pintar();
+            if (vale) emit cambiado();
         });
         pintores_.push_back([=] {
             const auto [desde, hasta] = valores();
             listas[i]->clear();
             for (int v = desde; v <= hasta; ++v) listas[i]->addItem(QString::number(v), v);
-            listas[i]->setCurrentIndex(listas[i]->findData(propio.leer()));
+            listas[i]->setCurrentIndex(listas[i]->findData(par.leer(esMinimo)));
         });
     }
 }
@@ -251,7 +223,7 @@ void PaginaCondiciones::CrearGenerales() {
             {c.posMinDoses, c.posMaxDoses}};
         auto [min, max] = elegidos[static_cast<std::size_t>(columna)];
         const auto [pmin, pmax] = posibles[static_cast<std::size_t>(columna)];
-        const auto r = PulsarRango({pmin, pmax, *min, *max}, fila);
+        const auto r = engine::PulsarRango({pmin, pmax, *min, *max}, fila);
         if (r.min == *min && r.max == *max) return;
         *min = static_cast<std::uint8_t>(r.min);
         *max = static_cast<std::uint8_t>(r.max);
@@ -284,8 +256,8 @@ void PaginaCondiciones::CrearSeguidos() {
             [&c, k] {
                 return std::pair<int, int>{c.posMinSeg[k], c.posMaxSeg[k]};
             },
-            {Leer(c.minSeg[k]), Poner(c.minSeg[k])}, {Leer(c.maxSeg[k]), Poner(c.maxSeg[k])},
-            engine::kCasillaSeguidos, QStringLiteral("Seg") + kClases[k]);
+            ParDe(engine::kCasillaSeguidos, c.minSeg[k], c.maxSeg[k]),
+            QStringLiteral("Seg") + kClases[k]);
     }
     rejilla->setRowStretch(5, 1);
     rejilla->setColumnStretch(3, 1);
@@ -306,7 +278,7 @@ void PaginaCondiciones::CrearInterrupciones() {
         1);
     connect(interrupciones_, &RejillaRangos::pulsada, this, [this](int, int fila) {
         auto& c = comb_.condiciones;
-        const auto r = PulsarRango({0, 13, c.minInter, c.maxInter}, fila);
+        const auto r = engine::PulsarRango({0, 13, c.minInter, c.maxInter}, fila);
         if (r.min == c.minInter && r.max == c.maxInter) return;
         c.minInter = static_cast<std::int16_t>(r.min);
         c.maxInter = static_cast<std::int16_t>(r.max);
@@ -335,8 +307,7 @@ void PaginaCondiciones::CrearConsecutivas() {
         [] {
             return std::pair{0, 13};
         },
-        {Leer(c.minInterCons), Poner(c.minInterCons)},
-        {Leer(c.maxInterCons), Poner(c.maxInterCons)}, engine::kCasillaInterConsecutivas,
+        ParDe(engine::kCasillaInterConsecutivas, c.minInterCons, c.maxInterCons),
         QStringLiteral("InterCons"));
     rejilla->setRowStretch(2, 1);
     rejilla->setColumnStretch(3, 1);
@@ -359,8 +330,7 @@ void PaginaCondiciones::CrearParejasYTrios() {
             [tope] {
                 return std::pair{0, tope};
             },
-            {Leer(c.minPareja[i]), Poner(c.minPareja[i])},
-            {Leer(c.maxPareja[i]), Poner(c.maxPareja[i])}, engine::kCasillaParejas,
+            ParDe(engine::kCasillaParejas, c.minPareja[i], c.maxPareja[i]),
             QStringLiteral("Pareja%1").arg(i));
     }
     rp->setRowStretch(10, 1);
@@ -384,8 +354,8 @@ void PaginaCondiciones::CrearParejasYTrios() {
             [tope] {
                 return std::pair{0, tope};
             },
-            {Leer(c.minTrio[i]), Poner(c.minTrio[i])}, {Leer(c.maxTrio[i]), Poner(c.maxTrio[i])},
-            engine::kCasillaTrios, QStringLiteral("Trio%1").arg(i));
+            ParDe(engine::kCasillaTrios, c.minTrio[i], c.maxTrio[i]),
+            QStringLiteral("Trio%1").arg(i));
         if (columna > 0) rt->setColumnMinimumWidth(columna - 1, 24);
     }
     rt->setRowStretch(10, 1);
@@ -417,7 +387,7 @@ void PaginaCondiciones::CrearGrupos() {
         if (pintando_) return;
         comb_.condiciones.grupos[static_cast<std::size_t>(grupo_)].activo = on;
         comb_.condiciones.ultimoGrupo = engine::MaxGr(comb_.condiciones);
-        Mostrar();
+        Pintar();
         emit cambiado();
     });
     izquierda->addWidget(activar);
@@ -440,14 +410,14 @@ void PaginaCondiciones::CrearGrupos() {
         auto& g = comb_.condiciones.grupos[static_cast<std::size_t>(grupo_)];
         g.partidos.fill(en);
         engine::CalcularPosiblesGrupo(g, comb_.base);
-        Mostrar();
+        Pintar();
         emit cambiado();
     };
     boton(QStringLiteral("Borrar todos"), QStringLiteral("BorrarTodos"), [todos] { todos(false); });
     boton(QStringLiteral("Selec. todos"), QStringLiteral("SelecTodos"), [todos] { todos(true); });
     boton(QStringLiteral("Desactivar todos"), QStringLiteral("DesactivarTodos"), [this] {
         engine::DesactivarGrupos(comb_.condiciones);
-        Mostrar();
+        Pintar();
         emit cambiado();
     });
     izquierda->addLayout(botones);
@@ -470,40 +440,35 @@ void PaginaCondiciones::CrearGrupos() {
 
     connect(anterior, &QPushButton::clicked, this, [this] {
         grupo_ = std::max(0, grupo_ - 1);
-        Mostrar();
+        Pintar();
     });
     connect(siguiente, &QPushButton::clicked, this, [this] {
         grupo_ = std::min(engine::kGrupos - 1, grupo_ + 1);
-        Mostrar();
+        Pintar();
     });
     connect(partidosGrupo_, &QTableWidget::cellClicked, this, [this](int fila, int) {
         auto& g = comb_.condiciones.grupos[static_cast<std::size_t>(grupo_)];
         g.partidos[static_cast<std::size_t>(fila)] = !g.partidos[static_cast<std::size_t>(fila)];
         engine::CalcularPosiblesGrupo(g, comb_.base);
-        Mostrar();
+        Pintar();
         emit cambiado();
     });
     connect(limitesGrupo_, &RejillaRangos::pulsada, this, [this](int columna, int fila) {
         auto& g = comb_.condiciones.grupos[static_cast<std::size_t>(grupo_)];
         const auto k = static_cast<std::size_t>(columna);
-        const auto r = PulsarRango(
+        const auto r = engine::PulsarRango(
             {g.posMin[k], g.posMax[k], g.min[k], std::min<int>(g.max[k], g.posMax[k])}, fila);
         g.min[k] = static_cast<std::uint8_t>(r.min);
         g.max[k] = static_cast<std::uint8_t>(r.max);
         g.activo = true;
         comb_.condiciones.ultimoGrupo = engine::MaxGr(comb_.condiciones);
-        Mostrar();
+        Pintar();
         emit cambiado();
     });
     connect(toleranciaGrupos_, &QSpinBox::valueChanged, this, [this](int v) {
         if (pintando_) return;
-        auto& c = comb_.condiciones;
-        if (v > c.ultimoGrupo + 1) {
-            dialogo_.Mensaje(kToleranciaGrupos, base::Icono::Aviso);
-            v = c.ultimoGrupo + 1;
-        }
-        c.toleranciaGrupos = static_cast<std::int16_t>(v);
-        Mostrar();
+        engine::FijarToleranciaGrupos(comb_.condiciones, v, dialogo_);
+        Pintar();
         emit cambiado();
     });
     pintores_.push_back([this] { MostrarGrupo(); });
@@ -520,7 +485,7 @@ void PaginaCondiciones::MostrarGrupo() {
         partidosGrupo_->item(p, 1)->setText(en ? QStringLiteral("X") : QString());
         partidosGrupo_->item(p, 1)->setBackground(en ? kMagenta : QColor(Qt::white));
     }
-    std::vector<RejillaRangos::Rango> rangos;
+    std::vector<engine::RangoRejilla> rangos;
     for (std::size_t k = 0; k < 4; ++k) {
         rangos.push_back({g.posMin[k], g.posMax[k], std::max<int>(g.min[k], g.posMin[k]),
                           std::min<int>(g.max[k], g.posMax[k])});
@@ -558,7 +523,7 @@ void PaginaCondiciones::CrearGruposAciertos() {
         if (pintando_) return;
         comb_.condiciones.gruposAc[static_cast<std::size_t>(grupoAc_)].activo = on;
         comb_.condiciones.ultimoGrupoAc = engine::MaxAGr(comb_.condiciones);
-        Mostrar();
+        Pintar();
         emit cambiado();
     });
     izquierda->addWidget(activar);
@@ -593,57 +558,30 @@ void PaginaCondiciones::CrearGruposAciertos() {
 
     connect(anterior, &QPushButton::clicked, this, [this] {
         grupoAc_ = std::max(0, grupoAc_ - 1);
-        Mostrar();
+        Pintar();
     });
     connect(siguiente, &QPushButton::clicked, this, [this] {
         grupoAc_ = std::min(engine::kGrupos - 1, grupoAc_ + 1);
-        Mostrar();
+        Pintar();
     });
     connect(partidosGrupoAc_, &QTableWidget::cellClicked, this, [this](int fila, int columna) {
-        if (columna == 0 || !comb_.base.Elegido(fila + 1, columna - 1)) return;
         auto& g = comb_.condiciones.gruposAc[static_cast<std::size_t>(grupoAc_)];
-        auto& celda =
-            g.signos[static_cast<std::size_t>(fila)][static_cast<std::size_t>(columna - 1)];
-        celda = celda == ' ' ? engine::kSignos[static_cast<std::size_t>(columna - 1)] : ' ';
-        int n = 0;
-        for (int p = 0; p < engine::kPartidos; ++p) n += g.EsDelGrupo(p) ? 1 : 0;
-        g.numPartidos = static_cast<std::uint8_t>(n);
-        g.aciertosMin = 0;
-        g.aciertosMax = g.numPartidos;
-        g.fallosMin = 0;
-        g.fallosMax = g.numPartidos;
-        Mostrar();
+        if (columna == 0 || !engine::AlternarSignoGrupoAc(g, comb_.base, fila, columna - 1)) return;
+        Pintar();
         emit cambiado();
     });
     connect(limitesGrupoAc_, &RejillaRangos::pulsada, this, [this](int columna, int fila) {
         auto& g = comb_.condiciones.gruposAc[static_cast<std::size_t>(grupoAc_)];
-        const int n = g.numPartidos;
-        // Aciertos y fallos son los mismos límites vistos desde los dos lados.
-        if (columna == 0) {
-            const auto r = PulsarRango({0, n, g.aciertosMin, g.aciertosMax}, fila);
-            g.aciertosMin = static_cast<std::uint8_t>(r.min);
-            g.aciertosMax = static_cast<std::uint8_t>(r.max);
-        } else {
-            const auto r = PulsarRango({0, n, n - g.aciertosMax, n - g.aciertosMin}, fila);
-            g.aciertosMin = static_cast<std::uint8_t>(n - r.max);
-            g.aciertosMax = static_cast<std::uint8_t>(n - r.min);
-        }
-        g.fallosMin = static_cast<std::uint8_t>(n - g.aciertosMax);
-        g.fallosMax = static_cast<std::uint8_t>(n - g.aciertosMin);
+        engine::PulsarAciertosFallos(g, columna, fila);
         g.activo = true;
         comb_.condiciones.ultimoGrupoAc = engine::MaxAGr(comb_.condiciones);
-        Mostrar();
+        Pintar();
         emit cambiado();
     });
     connect(toleranciaGruposAc_, &QSpinBox::valueChanged, this, [this](int v) {
         if (pintando_) return;
-        auto& c = comb_.condiciones;
-        if (v > c.ultimoGrupoAc + 1) {
-            dialogo_.Mensaje(kToleranciaGruposAc, base::Icono::Aviso);
-            v = c.ultimoGrupoAc + 1;
-        }
-        c.toleranciaGruposAc = static_cast<std::int16_t>(v);
-        Mostrar();
+        engine::FijarToleranciaGruposAc(comb_.condiciones, v, dialogo_);
+        Pintar();
         emit cambiado();
     });
     pintores_.push_back([this] { MostrarGrupoAc(); });
@@ -701,55 +639,124 @@ void PaginaCondiciones::CrearSumas() {
     sumaMinima_->setObjectName(QStringLiteral("SumaMinima"));
     sumaMaxima_ = new QLineEdit(contenido);
     sumaMaxima_->setObjectName(QStringLiteral("SumaMaxima"));
+    sumaMasBaja_ = new QLabel(contenido);
+    sumaMasBaja_->setObjectName(QStringLiteral("SumaMasBaja"));
+    sumaMasAlta_ = new QLabel(contenido);
+    sumaMasAlta_->setObjectName(QStringLiteral("SumaMasAlta"));
     limites->addWidget(new QLabel(QStringLiteral("Suma mínima"), contenido), 0, 0);
     limites->addWidget(sumaMinima_, 0, 1);
+    limites->addWidget(sumaMasBaja_, 0, 2);
     limites->addWidget(new QLabel(QStringLiteral("Suma máxima"), contenido), 1, 0);
     limites->addWidget(sumaMaxima_, 1, 1);
+    limites->addWidget(sumaMasAlta_, 1, 2);
+    limites->setColumnStretch(3, 1);
     for (auto* campo : {sumaMinima_, sumaMaxima_}) {
-        campo->setValidator(new QIntValidator(0, 1400, campo));
+        // Solo cifras.
+        campo->setValidator(
+            new QRegularExpressionValidator(QRegularExpression(QStringLiteral("[0-9]*")), campo));
         campo->setMaximumWidth(campo->fontMetrics().horizontalAdvance(QStringLiteral("00000")) +
                                16);
     }
     derecha->addLayout(limites);
     auto* automatico = new QPushButton(QStringLiteral("% &Automático"), contenido);
     automatico->setObjectName(QStringLiteral("BotonAutomatico"));
-    automatico->setEnabled(false);
+    connect(automatico, &QPushButton::clicked, this, &PaginaCondiciones::automatico);
     derecha->addWidget(automatico, 0, Qt::AlignLeft);
     derecha->addStretch();
     caja->addLayout(derecha, 1);
 
     connect(sumas_, &QTableWidget::cellChanged, this, [this](int fila, int columna) {
         if (pintando_ || columna == 0) return;
-        const int v = std::clamp(sumas_->item(fila, columna)->text().toInt(), 0, 100);
-        comb_.condiciones
-            .sumasTabla[static_cast<std::size_t>(columna - 1)][static_cast<std::size_t>(fila)] =
-            static_cast<std::uint8_t>(v);
-        Mostrar();
-        emit cambiado();
+        CambioEnSumas(fila, columna - 1);
     });
-    const auto limite = [this](QLineEdit* campo, std::int16_t& valor) {
-        connect(campo, &QLineEdit::editingFinished, this, [this, campo, &valor] {
-            valor = static_cast<std::int16_t>(campo->text().toInt());
-            emit cambiado();
+    // Con la casilla encendida, un límite nuevo se valida y se guarda como al encenderla.
+    for (auto* campo : {sumaMinima_, sumaMaxima_}) {
+        connect(campo, &QLineEdit::editingFinished, this, [this] {
+            if (comb_.condiciones.casilla[engine::kCasillaSumas]) ActivarSumas();
         });
-    };
-    limite(sumaMinima_, comb_.condiciones.sumaMinima);
-    limite(sumaMaxima_, comb_.condiciones.sumaMaxima);
-    pintores_.push_back([this] {
-        const auto& c = comb_.condiciones;
-        for (int p = 0; p < engine::kPartidos; ++p) {
-            sumas_->item(p, 0)->setText(Q(comb_.base.Equipos(p + 1)));
-            sumas_->item(p, 0)->setFlags(Qt::ItemIsEnabled);
-            for (std::size_t s = 0; s < 3; ++s) {
-                sumas_->item(p, static_cast<int>(s) + 1)
-                    ->setText(QString::number(c.sumasTabla[s][static_cast<std::size_t>(p)]));
-            }
-        }
-        sumaMinima_->setText(c.sumaMinima > 0 ? QString::number(c.sumaMinima) : QString());
-        sumaMaxima_->setText(c.sumaMinima > 0 ? QString::number(c.sumaMaxima) : QString());
-    });
+    }
+    pintores_.push_back([this] { MostrarSumas(); });
     Pestana(QStringLiteral("Sumas"), QStringLiteral("Sumas de probabilidades"),
             engine::kCasillaSumas, contenido);
+}
+
+// Lo que la pantalla guarda mientras se escribe (las celdas de Sumas, sus límites, los datos de
+// una Comparación aún no activada) se toma de las condiciones solo al abrir o reiniciar.
+void PaginaCondiciones::Cargar() {
+    const auto& c = comb_.condiciones;
+    for (std::size_t r = 0; r < engine::kComparacionesFilas; ++r) {
+        const auto& comp = c.comparaciones[r];
+        const std::array<int, 5> v = {comp.signoIzq, comp.listaIzq, comp.operador, comp.signoDer,
+                                      comp.listaDer};
+        for (std::size_t k = 0; k < 5; ++k) datosComparacion_[r][k]->setCurrentIndex(v[k]);
+    }
+    for (std::size_t p = 0; p < engine::kPartidos; ++p) {
+        for (std::size_t s = 0; s < 3; ++s) rejillaSumas_[p][s] = c.sumasTabla[s][p];
+    }
+    const bool hay = c.sumaMinima != 0 || c.sumaMaxima != 0;
+    sumaMinima_->setText(hay ? QString::number(c.sumaMinima) : QString());
+    sumaMaxima_->setText(hay ? QString::number(c.sumaMaxima) : QString());
+}
+
+// Una celda escrita: en blanco deja la fila sin completar; con un número, SumaCien rehace la fila
+// y pasa a SumasTabla.
+void PaginaCondiciones::CambioEnSumas(int fila, int signo) {
+    auto& f = rejillaSumas_[static_cast<std::size_t>(fila)];
+    const QString texto = sumas_->item(fila, signo + 1)->text().trimmed();
+    f[static_cast<std::size_t>(signo)] =
+        texto.isEmpty() ? std::nullopt : std::optional<int>(texto.toInt());
+    if (!texto.isEmpty()) {
+        engine::SumaCien(f, signo);
+        for (std::size_t s = 0; s < 3; ++s)
+            comb_.condiciones.sumasTabla[s][static_cast<std::size_t>(fila)] =
+                static_cast<std::uint8_t>(f[s].value_or(0));
+    }
+    if (!engine::ConSumas(rejillaSumas_)) comb_.condiciones.casilla[engine::kCasillaSumas] = false;
+    engine::AnularResultados(comb_);
+    Pintar();
+    emit cambiado();
+}
+
+void PaginaCondiciones::PonerPorcentajes(
+    const std::array<std::array<int, 3>, engine::kPartidos>& tabla) {
+    for (std::size_t p = 0; p < engine::kPartidos; ++p) {
+        for (std::size_t s = 0; s < 3; ++s) {
+            rejillaSumas_[p][s] = tabla[p][s];
+            comb_.condiciones.sumasTabla[s][p] = static_cast<std::uint8_t>(tabla[p][s]);
+        }
+    }
+    engine::AnularResultados(comb_);
+    Pintar();
+    emit cambiado();
+}
+
+void PaginaCondiciones::ActivarSumas() {
+    const auto numero = [](QLineEdit* campo) {
+        return campo->text().isEmpty() ? std::nullopt : std::optional<int>(campo->text().toInt());
+    };
+    engine::ActivarSumas(comb_, rejillaSumas_, numero(sumaMinima_), numero(sumaMaxima_), dialogo_);
+    Pintar();
+    emit cambiado();
+}
+
+// ConSumas: las sumas más baja y más alta posibles; con una celda en blanco, los límites en
+// blanco y bloqueados.
+void PaginaCondiciones::MostrarSumas() {
+    for (int p = 0; p < engine::kPartidos; ++p) {
+        sumas_->item(p, 0)->setText(Q(comb_.base.Equipos(p + 1)));
+        sumas_->item(p, 0)->setFlags(Qt::ItemIsEnabled);
+        for (std::size_t s = 0; s < 3; ++s) {
+            const auto& v = rejillaSumas_[static_cast<std::size_t>(p)][s];
+            sumas_->item(p, static_cast<int>(s) + 1)->setText(v ? QString::number(*v) : QString());
+        }
+    }
+    const auto posibles = engine::ConSumas(rejillaSumas_);
+    sumaMasBaja_->setText(posibles ? QString::number(posibles->first) : QString());
+    sumaMasAlta_->setText(posibles ? QString::number(posibles->second) : QString());
+    for (auto* campo : {sumaMinima_, sumaMaxima_}) {
+        if (!posibles) campo->clear();
+        campo->setEnabled(posibles.has_value());
+    }
 }
 
 void PaginaCondiciones::CrearComparaciones() {
@@ -789,58 +796,33 @@ void PaginaCondiciones::CrearComparaciones() {
                                                           &columnas};
         for (std::size_t k = 0; k < 5; ++k) {
             campos[k] = new QComboBox(contenido);
+            campos[k]->setObjectName(QStringLiteral("Comparacion%1Dato%2").arg(f).arg(k));
             campos[k]->addItem(QString());
             campos[k]->addItems(*textos[k]);
             filas->addWidget(campos[k], f, static_cast<int>(k) + 1);
         }
         connect(activa, &QCheckBox::toggled, this, [this, r, activa, campos](bool on) {
             if (pintando_) return;
-            auto& c = comb_.condiciones;
-            auto& comp = c.comparaciones[r];
-            if (on) {
+            const int fila = static_cast<int>(r);
+            if (!on) {
+                engine::DesactivarComparacion(comb_, fila);
+            } else {
                 const auto v = [&](std::size_t k) {
                     return static_cast<std::uint8_t>(campos[k]->currentIndex());
                 };
-                std::string error;
-                if (v(0) == 0 || v(1) == 0 || v(2) == 0 || v(3) == 0 || v(4) == 0) {
-                    error = "Tiene que consignar todos los datos de la Comparación.";
-                } else if (v(1) == v(4)) {
-                    error = "Las comparaciones deben hacerse entre distintas columnas.";
-                } else {
-                    bool hay = false;
-                    const auto lista = v(1) - 1U;
-                    for (int i = 1; i <= c.numListas[lista]; ++i) {
-                        hay = hay || comb_.base.Elegido(
-                                         c.listas[lista][static_cast<std::size_t>(i)], v(0) - 1);
-                    }
-                    if (!hay) {
-                        error = "En la columna " + campos[1]->currentText().toStdString() +
-                                " no hay '" + campos[0]->currentText().toStdString() + "'.";
-                    }
-                }
-                if (!error.empty()) {
-                    dialogo_.Mensaje(error, base::Icono::Aviso);
+                const engine::Comparacion datos{1, v(0), v(1), v(2), v(3), v(4)};
+                if (!engine::ActivarComparacion(comb_, fila, datos, dialogo_)) {
                     const QSignalBlocker bloqueo(activa);
                     activa->setChecked(false);
                     return;
                 }
-                comp = {1, v(0), v(1), v(2), v(3), v(4)};
-                c.casilla[engine::kCasillaComparaciones] = true;
-            } else {
-                comp.activa = 0;
-                const bool queda = std::any_of(c.comparaciones.begin(), c.comparaciones.end(),
-                                               [](const auto& x) { return x.activa == 1; });
-                if (!queda) c.casilla[engine::kCasillaComparaciones] = false;
             }
-            Mostrar();
+            Pintar();
             emit cambiado();
         });
-        pintores_.push_back([this, r, activa, campos] {
-            const auto& comp = comb_.condiciones.comparaciones[r];
-            activa->setChecked(comp.activa == 1);
-            const std::array<int, 5> v = {comp.signoIzq, comp.listaIzq, comp.operador,
-                                          comp.signoDer, comp.listaDer};
-            for (std::size_t k = 0; k < 5; ++k) campos[k]->setCurrentIndex(v[k]);
+        datosComparacion_[r] = campos;
+        pintores_.push_back([this, r, activa] {
+            activa->setChecked(comb_.condiciones.comparaciones[r].activa == 1);
         });
     }
     fila->addLayout(filas);
@@ -849,22 +831,9 @@ void PaginaCondiciones::CrearComparaciones() {
     caja->addStretch();
     connect(listas_, &QTableWidget::cellClicked, this, [this](int fila, int columna) {
         if (columna == 0) return;
-        auto& c = comb_.condiciones;
-        const auto l = static_cast<std::size_t>(columna - 1);
-        const auto partido = static_cast<std::uint8_t>(fila + 1);
-        std::vector<std::uint8_t> lista(c.listas[l].begin() + 1,
-                                        c.listas[l].begin() + 1 + c.numListas[l]);
-        const auto donde = std::find(lista.begin(), lista.end(), partido);
-        if (donde == lista.end()) {
-            lista.push_back(partido);
-        } else {
-            lista.erase(donde);
-        }
-        std::sort(lista.begin(), lista.end());
-        c.listas[l] = {};
-        std::copy(lista.begin(), lista.end(), c.listas[l].begin() + 1);
-        c.numListas[l] = static_cast<std::uint8_t>(lista.size());
-        Mostrar();
+        engine::AlternarPartidoLista(comb_.condiciones, columna, fila + 1);
+        engine::AnularResultados(comb_);
+        Pintar();
         emit cambiado();
     });
     pintores_.push_back([this] { MostrarComparaciones(); });
@@ -913,18 +882,13 @@ void PaginaCondiciones::CrearRepeticiones() {
         // Elegir la longitud borra el límite de ese signo; el límite con longitud enciende la
         // familia.
         connect(largo, &QComboBox::activated, this, [this, k, largo](int i) {
-            auto& c = comb_.condiciones;
-            c.longRep[k] = static_cast<std::uint8_t>(largo->itemData(i).toInt());
-            c.limiteRep[k] = 0;
-            Mostrar();
+            engine::ElegirLargoRepeticion(comb_, static_cast<int>(k), largo->itemData(i).toInt());
+            Pintar();
             emit cambiado();
         });
         connect(limite, &QComboBox::activated, this, [this, k, limite](int i) {
-            auto& c = comb_.condiciones;
-            c.limiteRep[k] = static_cast<std::uint8_t>(limite->itemData(i).toInt());
-            if (c.longRep[k] > 0 && c.limiteRep[k] > 0)
-                c.casilla[engine::kCasillaRepeticiones] = true;
-            Mostrar();
+            engine::ElegirLimiteRepeticion(comb_, static_cast<int>(k), limite->itemData(i).toInt());
+            Pintar();
             emit cambiado();
         });
         pintores_.push_back([this, k, largo, limite] {
@@ -941,6 +905,11 @@ void PaginaCondiciones::CrearRepeticiones() {
 }
 
 void PaginaCondiciones::Mostrar() {
+    Cargar();
+    Pintar();
+}
+
+void PaginaCondiciones::Pintar() {
     pintando_ = true;
     for (std::size_t i = 0; i < casillas_.size(); ++i) {
         if (i == engine::kCasillaGrupoMostrado || i == engine::kCasillaGrupoAcMostrado ||
@@ -952,35 +921,10 @@ void PaginaCondiciones::Mostrar() {
     pintando_ = false;
 }
 
-void PaginaCondiciones::CambioDeBase() {
-    auto& c = comb_.condiciones;
-    const auto g = engine::CalcularPosiblesGenerales(comb_.base);
-    c.posMinUnos = g.minUnos;
-    c.posMaxUnos = g.maxUnos;
-    const auto seguir = [](std::uint8_t& min, std::uint8_t& max, std::uint8_t& pmin,
-                           std::uint8_t& pmax, int nmin, int nmax) {
-        // Sin tocar, los elegidos siguen a los posibles; tocados, se recortan al rango nuevo.
-        const bool intacto = min == pmin && max == pmax;
-        pmin = static_cast<std::uint8_t>(nmin);
-        pmax = static_cast<std::uint8_t>(nmax);
-        min = intacto ? pmin : std::clamp(min, pmin, pmax);
-        max = intacto ? pmax : std::clamp(max, min, pmax);
-    };
-    seguir(c.minVariantes, c.maxVariantes, c.posMinVariantes, c.posMaxVariantes, g.minVariantes,
-           g.maxVariantes);
-    seguir(c.minEquis, c.maxEquis, c.posMinEquis, c.posMaxEquis, g.minEquis, g.maxEquis);
-    seguir(c.minDoses, c.maxDoses, c.posMinDoses, c.posMaxDoses, g.minDoses, g.maxDoses);
-    const auto s = engine::CalcularPosiblesSeguidos(comb_.base);
-    for (std::size_t k = 0; k < 4; ++k)
-        seguir(c.minSeg[k], c.maxSeg[k], c.posMinSeg[k], c.posMaxSeg[k], s.min[k], s.max[k]);
-    for (auto& grupo : c.grupos) engine::CalcularPosiblesGrupo(grupo, comb_.base);
-    Mostrar();
-}
-
 void PaginaCondiciones::AlEntrar() {
     if (toleranciaGrupos_->text().isEmpty()) toleranciaGrupos_->setValue(0);
     if (toleranciaGruposAc_->text().isEmpty()) toleranciaGruposAc_->setValue(0);
-    Mostrar();
+    Pintar();
 }
 
 }  // namespace quinteva::ui

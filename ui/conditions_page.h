@@ -7,6 +7,8 @@
 
 #include "base/dialog.h"
 #include "engine/combination.h"
+#include "engine/condition_grids.h"
+#include "engine/editing_rules.h"
 
 class QCheckBox;
 class QGridLayout;
@@ -26,11 +28,8 @@ class RejillaRangos : public QWidget {
     Q_OBJECT
 
   public:
-    struct Rango {
-        int posMin, posMax, min, max;
-    };
     RejillaRangos(const QStringList& columnas, int filas, const QColor& elegido, QWidget* madre);
-    void Mostrar(const std::vector<Rango>& rangos);
+    void Mostrar(const std::vector<engine::RangoRejilla>& rangos);
     QTableWidget* Tabla() const { return tabla_; }
 
   signals:
@@ -42,10 +41,6 @@ class RejillaRangos : public QWidget {
     QColor elegido_;
 };
 
-// Lo que hace un clic en una fila de una rejilla de rangos: fuera de lo posible, nada; fuera del
-// rango, lo alarga hasta ella; en un extremo, lo acorta; dentro, empieza en ella.
-RejillaRangos::Rango PulsarRango(RejillaRangos::Rango r, int fila);
-
 // La página "Condicion.": una pestaña por familia, con su casilla de actividad y "&Reiniciar".
 // Escribe en las condiciones de la Combinación y avisa con "cambiado" de que los resultados ya no
 // valen.
@@ -56,30 +51,38 @@ class PaginaCondiciones : public QWidget {
     PaginaCondiciones(engine::Combinacion& combinacion, base::Dialogo& dialogo,
                       QWidget* madre = nullptr);
 
-    // Vuelve a pintar todo desde las condiciones.
+    // Vuelve a tomar todo de las condiciones (al abrir, al reiniciar) y lo pinta.
     void Mostrar();
-    // La base cambió: los límites posibles se recalculan.
-    void CambioDeBase();
+    // Vuelve a pintar lo que pudo cambiar (tras QuinComp), sin perder las celdas en blanco de
+    // Sumas.
+    void Pintar();
+    // "% &Automático": los porcentajes de 1, X, 2 de cada partido a la rejilla de Sumas y a
+    // SumasTabla.
+    void PonerPorcentajes(const std::array<std::array<int, 3>, engine::kPartidos>& tabla);
     // Al entrar en la página: una tolerancia vacía vale 0.
     void AlEntrar();
     QTabWidget* Pestanas() const { return pestanas_; }
 
   signals:
     void cambiado();
+    // Se pulsó "% &Automático": la ventana calcula los porcentajes con la temporada.
+    void automatico();
 
   private:
-    // Un valor de las condiciones visto desde una lista: cómo se lee y cómo se pone.
-    struct Campo {
-        std::function<int()> leer;
-        std::function<void(int)> poner;
+    // Un par mínimo/máximo de las condiciones visto desde sus dos listas: cómo se lee cada límite
+    // y cómo se cambia (con la regla del par, que puede rechazarlo).
+    struct Par {
+        std::function<int(bool esMinimo)> leer;
+        std::function<bool(bool esMinimo, int valor)> cambiar;
     };
+    template <typename T>
+    Par ParDe(engine::Casilla familia, T& min, T& max);
     QWidget* Pestana(const QString& titulo, const QString& casilla, engine::Casilla familia,
                      QWidget* contenido);
     // Dos listas mínimo y máximo de un par de límites, con valores de desde a hasta (que pueden
     // depender de la base).
     void ParDeListas(QGridLayout* rejilla, int fila, int columna,
-                     std::function<std::pair<int, int>()> valores, Campo min, Campo max,
-                     engine::Casilla familia, const QString& nombre);
+                     std::function<std::pair<int, int>()> valores, Par par, const QString& nombre);
     void Marcar(engine::Casilla familia);
     void CrearGenerales();
     void CrearSeguidos();
@@ -94,6 +97,10 @@ class PaginaCondiciones : public QWidget {
     void MostrarGrupo();
     void MostrarGrupoAc();
     void MostrarComparaciones();
+    void Cargar();
+    void CambioEnSumas(int fila, int signo);
+    void ActivarSumas();
+    void MostrarSumas();
 
     engine::Combinacion& comb_;
     base::Dialogo& dialogo_;
@@ -117,7 +124,12 @@ class PaginaCondiciones : public QWidget {
     QTableWidget* sumas_ = nullptr;
     QLineEdit* sumaMinima_ = nullptr;
     QLineEdit* sumaMaxima_ = nullptr;
+    QLabel* sumaMasBaja_ = nullptr;
+    QLabel* sumaMasAlta_ = nullptr;
+    // La rejilla de Sumas tal como se ve: una celda puede estar en blanco.
+    std::array<engine::FilaSumas, engine::kPartidos> rejillaSumas_{};
     QTableWidget* listas_ = nullptr;
+    std::array<std::array<QComboBox*, 5>, engine::kComparacionesFilas> datosComparacion_{};
 };
 
 }  // namespace quinteva::ui

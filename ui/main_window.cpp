@@ -19,10 +19,14 @@
 #include <cmath>
 
 #include "base/error.h"
+#include "base/record_files.h"
+#include "builders/automatic_percent.h"
 #include "builders/match_info.h"
 #include "engine/analysis.h"
 #include "engine/combination_files.h"
+#include "engine/combination_price.h"
 #include "engine/conditions.h"
+#include "engine/editing_rules.h"
 #include "seasons/demo_season.h"
 #include "ui/base_page.h"
 #include "ui/conditions_page.h"
@@ -150,6 +154,8 @@ void VentanaPrincipal::CrearPaginas() {
     connect(base_, &PaginaBase::golVisitado, this, &VentanaPrincipal::GolVisitado);
     connect(base_, &PaginaBase::partidoElegido, this, &VentanaPrincipal::PartidoElegido);
     connect(condiciones_, &PaginaCondiciones::cambiado, this, &VentanaPrincipal::CambioCondiciones);
+    connect(condiciones_, &PaginaCondiciones::automatico, this,
+            &VentanaPrincipal::PorcentajesAutomaticos);
     connect(generar_->generar, &QPushButton::clicked, this, &VentanaPrincipal::Generar);
     connect(generar_->detener, &QPushButton::clicked, this, &VentanaPrincipal::Detener);
     connect(generar_->info, &QPushButton::clicked, this, &VentanaPrincipal::Rechazadas);
@@ -547,11 +553,12 @@ void VentanaPrincipal::AvisoBoletos() {
 
 void VentanaPrincipal::SignoPulsado(int partido, int signo) {
     if (trabajo_.EnCurso()) return;
+    const engine::QuinielaBase anterior = comb_.base;
     comb_.base.Alternar(partido, signo);
     AnularResultados();
     Habilitar(kReducir, false);
     Habilitar(kBoletos, false);
-    QuinComp();
+    QuinComp(anterior);
     Refrescar();
 }
 
@@ -568,12 +575,13 @@ void VentanaPrincipal::GolTecleado(int lado, const QString& tecla) {
     const bool valido = gol == QStringLiteral("0") || gol == QStringLiteral("1") ||
                         gol == QStringLiteral("2") || gol == QStringLiteral("M");
     const std::string texto = valido ? gol.toStdString() : std::string();
+    const engine::QuinielaBase anterior = comb_.base;
     comb_.base.PonerGoles(lado == 0 ? texto : comb_.base.GolesLocal(),
                           lado == 1 ? texto : comb_.base.GolesVisitante());
     AnularResultados();
     Habilitar(kReducir, false);
     Habilitar(kBoletos, false);
-    QuinComp();
+    QuinComp(anterior);
     Refrescar();
 }
 
@@ -590,30 +598,35 @@ void VentanaPrincipal::PartidoElegido(int fila) {
 
 void VentanaPrincipal::AnularResultados() {
     resultado_ = {};
-    comb_.panel.condicionada.reset();
-    comb_.panel.reducidas = {};
-    comb_.panel.precio.reset();
-    comb_.panel.guardada = false;
+    engine::AnularResultados(comb_);
 }
 
-// Lo que sigue de la base: si está completa, las páginas que se pueden usar, las cifras de "Al
-// Directo" y los límites posibles de las condiciones.
-void VentanaPrincipal::QuinComp() {
-    auto& panel = comb_.panel;
-    if (!comb_.base.Completa()) {
+// Lo que sigue de la base (con sus avisos): si está completa, las páginas que se pueden usar y
+// las condiciones ajustadas a ella.
+void VentanaPrincipal::QuinComp(const engine::QuinielaBase& anterior) {
+    const bool completa = engine::QuinComp(comb_, anterior, s_.dialogo);
+    if (!completa) {
         for (int p : {kCondicion, kGenerar, kReducir, kBoletos}) Habilitar(p, false);
-        panel.alDirecto.reset();
-        panel.dobles.reset();
-        panel.triples.reset();
         return;
     }
-    comb_.pleno = comb_.base.Pleno();
     Habilitar(kCondicion, true);
     Habilitar(kGenerar, true);
-    panel.alDirecto = comb_.base.Columnas();
-    panel.dobles = comb_.base.Dobles();
-    panel.triples = comb_.base.Triples();
-    condiciones_->CambioDeBase();
+    condiciones_->Pintar();
+}
+
+void VentanaPrincipal::PorcentajesAutomaticos() {
+    std::array<std::string, engine::kPartidos> partidos;
+    std::array<int, engine::kPartidos> divisiones{};
+    for (std::size_t p = 0; p < partidos.size(); ++p) {
+        partidos[p] = comb_.base.Equipos(static_cast<int>(p) + 1);
+        divisiones[p] = divisiones_[p];
+    }
+    try {
+        condiciones_->PonerPorcentajes(builders::PorcentajesAutomaticos(
+            temporada_.carpetaTemporada, partidos, divisiones, s_.ajustes));
+    } catch (const std::exception& e) {
+        Fallo(e);
+    }
 }
 
 void VentanaPrincipal::CambioCondiciones() {
@@ -675,7 +688,10 @@ void VentanaPrincipal::Generar() {
 void VentanaPrincipal::FinGeneracion() {
     refresco_.stop();
     RefrescarProgreso();
-    if (!resultado_.detenida) generar_->barra->setValue(generar_->barra->maximum());
+    if (!resultado_.detenida) {
+        generar_->barra->setValue(generar_->barra->maximum());
+        engine::PrecioComb(comb_, s_.ajustes);
+    }
     Habilitar(kReducir, resultado_.reducirHabilitado);
     Habilitar(kBoletos, false);
     Ocupado(false);
@@ -725,6 +741,12 @@ void VentanaPrincipal::FinReduccion() {
 void VentanaPrincipal::Detener() { trabajo_.Detener(); }
 
 void VentanaPrincipal::RefrescarProgreso() {
+    // La cuenta en marcha: los registros que ya llegaron a "Cmb.tmp" (el hilo de trabajo escribe
+    // por bloques), sin que la generación tenga que avisar de cada columna.
+    if (!reduciendo_ && verContador_ && trabajo_.EnCurso()) {
+        generar_->seleccionadas->setText(Cifra(static_cast<double>(base::CuentaRegistros(
+            s_.carpetaTrabajo / engine::kCmbTmp, engine::RegistroColumna::kLongitud))));
+    }
     if (!verBarra_) return;
     QProgressBar* barra = reduciendo_ ? reducir_->barra : generar_->barra;
     const auto& p = trabajo_.Progreso();

@@ -103,8 +103,9 @@ class VentanaPrincipal : public QMainWindow {
     void GolVisitado(int lado);
     void PartidoElegido(int fila);
     void CambioCondiciones();
+    void PorcentajesAutomaticos();
     void AnularResultados();
-    void QuinComp();
+    void QuinComp(const engine::QuinielaBase& anterior);
 
     void Generar();
     void FinGeneracion();
