@@ -24,7 +24,7 @@
 #include "builders/match_info.h"
 #include "engine/analysis.h"
 #include "engine/combination_files.h"
-#include "engine/combination_price.h"
+#include "engine/pricing.h"
 #include "engine/conditions.h"
 #include "engine/editing_rules.h"
 #include "seasons/demo_season.h"

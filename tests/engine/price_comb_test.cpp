@@ -1,4 +1,4 @@
-#include "engine/combination_price.h"
+#include "engine/pricing.h"
 
 #include <gtest/gtest.h>
 
@@ -31,12 +31,6 @@ TEST(PrecioComb, ElPrecioDeLosAjustesConComa) {
     Combinacion c = Generada(10, 10);
     PrecioComb(c, ajustes);
     EXPECT_DOUBLE_EQ(*c.panel.precio, 15.0);
-}
-
-TEST(PrecioComb, UnPrecioIlegibleValeElDeSiempre) {
-    pruebas::AjustesEnMemoria ajustes;
-    ajustes.Guardar(base::kAplicacion, "Opciones", "PrecioApu15", "abc");
-    EXPECT_DOUBLE_EQ(PrecioColumna(ajustes), static_cast<double>(0.75F));
 }
 
 TEST(PrecioComb, SinColumnasGeneradasElPrecioQuedaEnBlanco) {
