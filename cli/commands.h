@@ -26,5 +26,9 @@ int Nueva(const Argumentos& argumentos, std::ostream& salida);
 int Info(const Argumentos& argumentos, std::ostream& salida);
 int GenerarCmd(const Argumentos& argumentos, std::ostream& salida);
 int Analizar(const Argumentos& argumentos, std::ostream& salida);
+int AjustarCmd(const Argumentos& argumentos, std::ostream& salida);
+int EliminarCmd(const Argumentos& argumentos, std::ostream& salida);
+int JugarTodasCmd(const Argumentos& argumentos, std::ostream& salida);
+int TextoCmd(const Argumentos& argumentos, std::ostream& salida);
 
 }  // namespace quinteva::cli
