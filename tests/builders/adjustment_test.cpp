@@ -165,6 +165,27 @@ TEST(Ajustar, MuyAjustadaPreguntaConNoPorDefecto) {
     ComprobarActivas(b, 26);
 }
 
+TEST(Ajustar, ConSiElBucleSigueAunqueNoPuedaCompletarseYSoloLoParaDetener) {
+    // La copia en el almacén de una columna al azar no tiene estado: no está activa para Abrir,
+    // pero el sorteo tampoco la revive. Con las 8 columnas de la base así, la octava nunca llega.
+    BancoBoletos b("1X 1X 1X 1 1 1 1 1 1 1 1 1 1 1");
+    std::vector<engine::RegistroColumna> registros;
+    for (const auto& c : pruebas::ColumnasDeLaBase(b.comb.base))
+        registros.push_back(pruebas::Registro(c));
+    registros.back().pleno = {' ', ' '};
+    registros.back().estado = ' ';
+    b.Columnas(kCnd, registros);
+    ASSERT_EQ(b.comb.activasGeneradas, 7);
+    b.dialogo.Responder(base::Respuesta::Si);
+    pruebas::ProgresoContador progreso(500);
+    const Ajuste a = Ajustar(b.comb, "8", b.Entorno(), progreso);
+    EXPECT_EQ(a.resultado, ResultadoAjuste::Detenida);
+    EXPECT_EQ(a.cambiadas, 0);
+    EXPECT_EQ(progreso.Avances(), 500);
+    EXPECT_EQ(b.dialogo.Textos(), std::vector<std::string>{std::string(kPreguntaMuyAjustada)});
+    EXPECT_EQ(b.comb.activasGeneradas, 7);
+}
+
 TEST(Ajustar, AlDetenerseConUnaSolaEnElUltimoBoletoPreguntaYAnadeAlAzar) {
     for (const auto respuesta : {base::Respuesta::Si, base::Respuesta::No}) {
         BancoBoletos b(kBase243);

@@ -117,6 +117,17 @@ TEST_F(CliBoletos, SinRedOSinColumnasGuardadas) {
     EXPECT_EQ(r.errores, "Error: " + std::string(builders::kMsgSinBoletos) + "\n");
 }
 
+TEST_F(CliBoletos, UnCndCortadoNoSeToca) {
+    std::ofstream(cnd, std::ios::binary | std::ios::app) << "1X2";
+    const std::string antes = Bytes(cnd);
+    const std::string cabecera = Bytes(uxd);
+    const auto r = Cli("ajustar " + Q(uxd) + " --juego cnd --apuestas 16");
+    EXPECT_EQ(r.codigo, 1);
+    EXPECT_NE(r.errores.find("J1.cnd"), std::string::npos) << r.errores;
+    EXPECT_EQ(Bytes(cnd), antes);
+    EXPECT_EQ(Bytes(uxd), cabecera);
+}
+
 TEST_F(CliBoletos, EliminarPorReglaYJugarTodas) {
     // Los 72: 3 x 2 x 3 x 2 x 2 signos libres en los partidos 1, 4, 5, 10 y 11; con más de una X
     // entre ellos se eliminan.
