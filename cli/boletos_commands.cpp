@@ -1,5 +1,7 @@
 // Subcomandos de la página Boletos: ajustar, eliminar, jugar-todas y texto.
 #include <ostream>
+#include <sstream>
+#include <vector>
 
 #include "base/chance.h"
 #include "base/error.h"
@@ -9,7 +11,7 @@
 #include "builders/adjustment.h"
 #include "builders/manual.h"
 #include "builders/merge.h"
-#include "cli/cli_dialog.h"
+#include "cli/boletos_dialog.h"
 #include "cli/commands.h"
 #include "cli/json_output.h"
 #include "cli/private_folder.h"
@@ -37,49 +39,68 @@ std::size_t Eleccion(const std::optional<std::string>& valor,
     throw ErrorDeUso{"Uso: quinteva-cli " + std::string(uso)};
 }
 
+// Las líneas que mostró el diálogo.
+std::vector<std::string> Lineas(const std::ostringstream& mensajes) {
+    std::istringstream texto(mensajes.str());
+    std::vector<std::string> lineas;
+    for (std::string linea; std::getline(texto, linea);) lineas.push_back(linea);
+    return lineas;
+}
+
 // La Combinación abierta en la carpeta de los almacenes, con su conjunto jugado elegido como en
 // la página Boletos.
 class Sesion {
   public:
     Sesion(const Argumentos& a, std::string_view uso)
-        : carpeta_(a), ajustes_(a.CarpetaTrabajo()), azar_(base::AzarEstandar::SemillaDelReloj()) {
+        : dialogo_(mensajes_),
+          carpeta_(a),
+          ajustes_(a.CarpetaTrabajo()),
+          azar_(base::AzarEstandar::SemillaDelReloj()) {
         if (a.Posicionales().empty()) throw ErrorDeUso{"Uso: quinteva-cli " + std::string(uso)};
         const Jugada jugada = JuegoDe(a, uso);
-        comb.ruta = a.Posicionales()[0];
-        engine::Abrir(comb, carpeta_.Ruta(), ajustes_);
-        builders::ElegirJugada(comb, jugada, Entorno(), [] { return false; });
+        comb_.ruta = a.Posicionales()[0];
+        engine::Abrir(comb_, carpeta_.Ruta(), ajustes_);
+        builders::ElegirJugada(comb_, jugada, Entorno(), [] { return false; });
     }
 
-    builders::EntornoBoletos Entorno() { return {carpeta_.Ruta(), ajustes_, dialogo, azar_}; }
+    builders::EntornoBoletos Entorno() { return {carpeta_.Ruta(), ajustes_, dialogo_, azar_}; }
 
     // Lo que quedó: mensajes, jugada, apuestas y precio.
     int Informe(const Argumentos& a, std::ostream& salida) const {
-        const Jugada jugada = builders::JugadaElegida(comb);
-        const auto apuestas = builders::ApuestasJugadas(comb, jugada);
-        const double precio = comb.panel.precio.value_or(0.0);
+        const Jugada jugada = builders::JugadaElegida(comb_);
+        const auto apuestas = builders::ApuestasJugadas(comb_, jugada);
+        const double precio = comb_.panel.precio.value_or(0.0);
         if (a.Json()) {
-            salida << "{\"Jugada\": " << TextoJson(comb.jugada) << ", \"Apuestas\": " << apuestas
+            salida << "{\"Jugada\": " << TextoJson(comb_.jugada) << ", \"Apuestas\": " << apuestas
                    << ", \"Precio\": " << precio << ", \"Mensajes\": [";
-            const auto& textos = dialogo.Textos();
+            const auto textos = Lineas(mensajes_);
             for (std::size_t i = 0; i < textos.size(); ++i)
                 salida << (i ? ", " : "") << TextoJson(textos[i]);
             salida << "]}\n";
             return 0;
         }
-        for (const auto& t : dialogo.Textos()) salida << t << '\n';
+        salida << mensajes_.str();
         salida << (jugada == Jugada::Condicionada ? "Condicionada" : "Reducida")
                << "\nApuestas que se juegan en total: " << base::Formato(apuestas, "#,##0")
                << "\nPrecio: " << base::Formato(precio, "#,##0.#0") << " Euros\n";
         return 0;
     }
 
-    engine::Combinacion comb;
-    DialogoLineaOrdenes dialogo;
+    // Lo último que se mostró: el mensaje de un número rechazado.
+    std::string UltimaLinea() const {
+        const auto lineas = Lineas(mensajes_);
+        return lineas.empty() ? "Ajuste cancelado" : lineas.back();
+    }
+
+    engine::Combinacion& Comb() { return comb_; }
 
   private:
+    std::ostringstream mensajes_;
+    DialogoDeBoletos dialogo_;
     CarpetaDeAlmacenes carpeta_;
     base::AjustesIni ajustes_;
     base::AzarEstandar azar_;
+    engine::Combinacion comb_;
 };
 
 }  // namespace
@@ -91,11 +112,10 @@ int AjustarCmd(const Argumentos& a, std::ostream& salida) {
     if (!apuestas) throw ErrorDeUso{"Uso: quinteva-cli " + std::string(kUso)};
     Sesion s(a, kUso);
     base::SinProgreso progreso;
-    const auto ajuste = builders::Ajustar(s.comb, *apuestas, s.Entorno(), progreso);
+    const auto ajuste = builders::Ajustar(s.Comb(), *apuestas, s.Entorno(), progreso);
     if (ajuste.resultado == builders::ResultadoAjuste::Rechazada ||
         ajuste.resultado == builders::ResultadoAjuste::Cancelada) {
-        throw base::Error(s.dialogo.UltimoMensaje().empty() ? "Ajuste cancelado"
-                                                            : s.dialogo.UltimoMensaje());
+        throw base::Error(s.UltimaLinea());
     }
     return s.Informe(a, salida);
 }
@@ -118,8 +138,8 @@ int EliminarCmd(const Argumentos& a, std::ostream& salida) {
     regla.numero = std::stoi(p[1]);
     Sesion s(a, kUso);
     builders::VentanaEliminar ventana;
-    builders::EliminarPorRegla(s.comb, regla, ventana, s.Entorno());
-    builders::CerrarEliminar(s.comb, s.Entorno(), [] {});
+    builders::EliminarPorRegla(s.Comb(), regla, ventana, s.Entorno());
+    builders::CerrarEliminar(s.Comb(), s.Entorno(), [] {});
     return s.Informe(a, salida);
 }
 
@@ -128,8 +148,8 @@ int JugarTodasCmd(const Argumentos& a, std::ostream& salida) {
     a.ExigirPosicionales(1, kUso);
     Sesion s(a, kUso);
     builders::VentanaEliminar ventana;
-    builders::JugarTodas(s.comb, ventana, s.Entorno());
-    builders::CerrarEliminar(s.comb, s.Entorno(), [] {});
+    builders::JugarTodas(s.Comb(), ventana, s.Entorno());
+    builders::CerrarEliminar(s.Comb(), s.Entorno(), [] {});
     return s.Informe(a, salida);
 }
 
@@ -144,13 +164,15 @@ int TextoCmd(const Argumentos& a, std::ostream& salida) {
     engine::Combinacion comb;
     comb.ruta = a.Posicionales()[0];
     engine::CargarCabecera(comb, engine::LeerCabecera(comb.ruta));
-    DialogoLineaOrdenes dialogo{std::filesystem::path(*destino)};
+    std::ostringstream preguntas;
+    DialogoDeBoletos dialogo(preguntas, std::filesystem::path(*destino));
     const auto escritas = builders::GenerarArchivoTxt(comb, static_cast<int>(formato) + 1, dialogo);
     if (a.Json()) {
         salida << "{\"Columnas\": " << escritas.value_or(0)
                << ", \"Salida\": " << TextoJson(*destino) << "}\n";
     } else {
-        salida << "Escritas " << escritas.value_or(0) << " columnas en " << *destino << '\n';
+        salida << preguntas.str() << "Escritas " << escritas.value_or(0) << " columnas en "
+               << *destino << '\n';
     }
     return 0;
 }

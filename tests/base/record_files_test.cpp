@@ -115,3 +115,31 @@ TEST(AnexadorRegistros, ElDiscoLlenoEsUnError) {
 
 }  // namespace
 }  // namespace quinteva::base
+
+#include "base/atomic_write.h"
+
+namespace quinteva::base {
+namespace {
+
+TEST(EscribirAtomico, ReemplazaEnteroYUnVacioDejaUnArchivoVacio) {
+    pruebas::CarpetaTemporal carpeta;
+    const auto ruta = carpeta / "a.uxd";
+    EscribirAtomico(ruta, "antes");
+    EscribirAtomico(ruta, "despues");
+    EXPECT_EQ(Contenido(ruta), "despues");
+    EscribirAtomico(ruta, std::string_view());
+    EXPECT_EQ(std::filesystem::file_size(ruta), 0U);
+    EXPECT_FALSE(std::filesystem::exists(RutaTemporalJunto(ruta)));
+}
+
+TEST(EscribirAtomico, SiFallaElArchivoAnteriorQueda) {
+    pruebas::CarpetaTemporal carpeta;
+    const auto ruta = carpeta / "a.uxd";
+    EscribirAtomico(ruta, "del usuario");
+    std::filesystem::create_directory(RutaTemporalJunto(ruta));  // el temporal no se puede abrir
+    EXPECT_THROW(EscribirAtomico(ruta, "nuevo"), Error);
+    EXPECT_EQ(Contenido(ruta), "del usuario");
+}
+
+}  // namespace
+}  // namespace quinteva::base

@@ -163,7 +163,10 @@ TEST_F(CliBoletos, TextoEnLasTresFormas) {
     for (const std::string formato : {"separadores", "columna", "continuo"}) {
         const auto r = Cli("texto " + Q(uxd) + " --formato " + formato + " --salida " + Q(salida));
         ASSERT_EQ(r.codigo, 0) << r.errores;
-        EXPECT_EQ(r.salida, "Escritas 16 columnas en " + salida.string() + "\n");
+        // La primera vez no existe; luego se contesta Sí a sobrescribirlo.
+        const std::string pregunta =
+            formato == "separadores" ? "" : std::string(builders::kPreguntaTxtExiste) + " [Sí]\n";
+        EXPECT_EQ(r.salida, pregunta + "Escritas 16 columnas en " + salida.string() + "\n");
     }
     EXPECT_EQ(Bytes(salida), continuo);
     EXPECT_EQ(Cli("texto " + Q(uxd) + " --formato columna --salida " + Q(salida)).codigo, 0);

@@ -2,26 +2,22 @@
 
 #include <filesystem>
 #include <optional>
+#include <ostream>
 #include <string>
-#include <vector>
 
 #include "base/dialog.h"
 
 namespace quinteva::cli {
 
-// El Dialogo de la línea de órdenes contesta como un usuario que sigue adelante: Sí y Aceptar a
-// todo, salvo a lo que pide una ventana (añadir una columna a mano, rehabilitar una eliminada),
-// que contesta No para que el programa complete el Boleto al azar. El archivo para guardar es el
-// de --salida. Anota cada texto con la respuesta tomada.
-class DialogoLineaOrdenes final : public base::Dialogo {
+// El Dialogo de la línea de órdenes: las preguntas ya las contestó el usuario con sus opciones.
+// Cada mensaje sale por el flujo dado (stderr), las confirmaciones son Sí / Aceptar, la carpeta y
+// el archivo son los dados, y la caja de entrada contesta una vez el texto dado: si el sistema lo
+// rehúsa y vuelve a preguntar, es un Error.
+class DialogoDeOrdenes : public base::Dialogo {
   public:
-    explicit DialogoLineaOrdenes(std::optional<std::filesystem::path> salida = std::nullopt)
-        : salida_(std::move(salida)) {}
-
-    // Lo mostrado y preguntado, en orden: "texto" o "texto [Sí]".
-    const std::vector<std::string>& Textos() const { return textos_; }
-    // El último mensaje (no pregunta) mostrado; "" si ninguno.
-    const std::string& UltimoMensaje() const { return ultimoMensaje_; }
+    DialogoDeOrdenes(std::ostream& mensajes, std::optional<std::string> texto = std::nullopt,
+                     std::optional<std::filesystem::path> ruta = std::nullopt)
+        : mensajes_(mensajes), texto_(std::move(texto)), ruta_(std::move(ruta)) {}
 
     void Mensaje(std::string_view texto, base::Icono icono) override;
     base::Respuesta PreguntaSiNo(std::string_view texto, base::Respuesta porDefecto) override;
@@ -40,11 +36,10 @@ class DialogoLineaOrdenes final : public base::Dialogo {
                                                  const std::filesystem::path& inicial) override;
 
   private:
-    base::Respuesta Contestar(std::string_view texto, base::Respuesta si);
-
-    std::optional<std::filesystem::path> salida_;
-    std::vector<std::string> textos_;
-    std::string ultimoMensaje_;
+    std::ostream& mensajes_;
+    std::optional<std::string> texto_;
+    std::optional<std::filesystem::path> ruta_;
+    bool preguntado_ = false;
 };
 
 }  // namespace quinteva::cli
