@@ -10,6 +10,7 @@
 #include "base/working_folder.h"
 #include "cli/commands.h"
 #include "cli/json_output.h"
+#include "cli/private_folder.h"
 #include "engine/analysis.h"
 #include "engine/combination_files.h"
 #include "engine/generation.h"
@@ -112,8 +113,7 @@ int Nueva(const Argumentos& a, std::ostream& salida) {
         if (jornada < 0 || jornada > 255) throw ErrorDeUso{"La Jornada es un número de 0 a 255"};
     }
 
-    const auto carpeta = a.CarpetaTrabajo();
-    base::AsegurarCarpeta(carpeta);
+    const CarpetaDeAlmacenes almacenes(a);
     Combinacion c;
     c.base = base;
     c.pleno = base.Pleno();
@@ -125,8 +125,8 @@ int Nueva(const Argumentos& a, std::ostream& salida) {
     c.panel.alDirecto = base.Columnas();
     c.panel.dobles = base.Dobles();
     c.panel.triples = base.Triples();
-    const auto ajustes = AjustesDe(carpeta);
-    Guardar(c, carpeta, ajustes);
+    const auto ajustes = AjustesDe(a.CarpetaTrabajo());
+    Guardar(c, almacenes.Ruta(), ajustes);
     if (a.Json()) {
         salida << "{\"Nombre\": " << TextoJson(c.panel.nombre)
                << ", \"ApuestasPosibles\": " << static_cast<std::int64_t>(base.Columnas()) << "}\n";
@@ -181,16 +181,16 @@ int Info(const Argumentos& a, std::ostream& salida) {
 
 int GenerarCmd(const Argumentos& a, std::ostream& salida) {
     const auto ruta = RutaUxd(a, "generar RUTA.uxd [--carpeta DIR] [--json]");
-    const auto carpeta = a.CarpetaTrabajo();
-    base::AsegurarCarpeta(carpeta);
-    auto ajustes = AjustesDe(carpeta);
+    // Los almacenes en una carpeta propia: no se pisan los de un programa abierto.
+    const CarpetaDeAlmacenes almacenes(a);
+    auto ajustes = AjustesDe(a.CarpetaTrabajo());
     Combinacion c;
     // Como Abrir, sin tocar la lista de recientes.
     c.ruta = ruta;
-    Abrir(c, carpeta, ajustes);
+    Abrir(c, almacenes.Ruta(), ajustes);
     base::SinProgreso progreso;
-    Generar(c, carpeta, progreso, ajustes);
-    Guardar(c, carpeta, ajustes);
+    Generar(c, almacenes.Ruta(), progreso, ajustes);
+    Guardar(c, almacenes.Ruta(), ajustes);
     const auto posibles = static_cast<std::int64_t>(c.apuestasPosibles);
     if (a.Json()) {
         const auto& r = c.rechazos;

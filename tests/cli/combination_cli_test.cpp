@@ -148,3 +148,23 @@ TEST(CliCombinacion, UxdEscritoAManoSeGeneraExactamente) {
 
 }  // namespace
 }  // namespace quinteva
+
+namespace quinteva {
+namespace {
+
+TEST(CliCombinacion, GenerarSinCarpetaNoTocaLosAlmacenesDelUsuario) {
+    pruebas::CarpetaTemporal carpeta;
+    pruebas::CarpetaTemporal usuario;
+    const auto uxd = carpeta / "J2.uxd";
+    const std::string entorno = "QUINTEVA_CARPETA='" + usuario.Ruta().string() + "'";
+    auto r = pruebas::EjecutarCli(
+        "nueva '" + uxd.string() + "' --base \"1X 1 1 1 1 1 1 1 1 1 1 1 1 1\" --pleno 0-0", entorno);
+    ASSERT_EQ(r.codigo, 0) << r.errores;
+    r = pruebas::EjecutarCli("generar '" + uxd.string() + "'", entorno);
+    ASSERT_EQ(r.codigo, 0) << r.errores;
+    EXPECT_EQ(std::filesystem::file_size(carpeta / "J2.cnd"), 2U * 17U);
+    EXPECT_FALSE(std::filesystem::exists(usuario / "Cmb.tmp"));
+}
+
+}  // namespace
+}  // namespace quinteva
