@@ -1,5 +1,6 @@
 #include "base/record_files.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <string>
 #include <system_error>
@@ -127,6 +128,31 @@ void AnexadorRegistros::Volcar() {
 void AnexadorRegistros::Cerrar() {
     Volcar();
     if (std::fclose(archivo_.release()) != 0) FalloDeArchivo(ruta_);
+}
+
+LectorRegistros::LectorRegistros(const std::filesystem::path& ruta, std::size_t longitud)
+    : ruta_(ruta), longitud_(longitud), archivo_(std::fopen(ruta.c_str(), "rb"), &std::fclose) {
+    if (!archivo_) FalloDeArchivo(ruta);
+    cuenta_ =
+        static_cast<std::int32_t>(LongitudDe(archivo_.get(), ruta) / static_cast<long>(longitud));
+    if (std::fseek(archivo_.get(), 0, SEEK_SET) != 0) FalloDeArchivo(ruta);
+}
+
+std::span<const Byte> LectorRegistros::Siguiente() {
+    if (leidos_ >= cuenta_) return {};
+    if (posicion_ + longitud_ > bufer_.size()) {
+        // El búfer se rellena con registros enteros, así que siempre se ha gastado entero.
+        bufer_.resize(std::max<std::size_t>(1, kBufer / longitud_) * longitud_);
+        const std::size_t leidos = std::fread(bufer_.data(), 1, bufer_.size(), archivo_.get());
+        if (leidos < bufer_.size() && std::ferror(archivo_.get())) FalloDeArchivo(ruta_);
+        bufer_.resize(leidos);
+        posicion_ = 0;
+        if (bufer_.size() < longitud_) return {};
+    }
+    const std::span<const Byte> registro(bufer_.data() + posicion_, longitud_);
+    posicion_ += longitud_;
+    ++leidos_;
+    return registro;
 }
 
 }  // namespace quinteva::base

@@ -6,6 +6,7 @@
 #include <iterator>
 #include <string>
 
+#include "base/atomic_write.h"
 #include "base/error.h"
 #include "tests/support/temp_folder.h"
 
@@ -113,13 +114,34 @@ TEST(AnexadorRegistros, ElDiscoLlenoEsUnError) {
     }
 }
 
-}  // namespace
-}  // namespace quinteva::base
 
-#include "base/atomic_write.h"
+TEST(LectorRegistros, LeeTodoEnOrdenYNadaMas) {
+    pruebas::CarpetaTemporal carpeta;
+    const auto ruta = carpeta / "Cmb.tmp";
+    {
+        AnexadorRegistros anexador(ruta, 3);
+        for (int i = 0; i < 100000; ++i) {
+            const std::array<Byte, 3> r{Byte(i & 0xFF), Byte((i >> 8) & 0xFF), Byte(i >> 16)};
+            anexador.Anadir(r);
+        }
+        anexador.Cerrar();
+    }
+    std::ofstream(ruta, std::ios::binary | std::ios::app) << "x";  // un byte suelto al final
+    LectorRegistros lector(ruta, 3);
+    EXPECT_EQ(lector.Cuenta(), 100000);
+    int n = 0;
+    for (auto r = lector.Siguiente(); !r.empty(); r = lector.Siguiente()) {
+        ASSERT_EQ(r[0] | (r[1] << 8) | (r[2] << 16), n);
+        ++n;
+    }
+    EXPECT_EQ(n, 100000);
+}
 
-namespace quinteva::base {
-namespace {
+TEST(LectorRegistros, NoCreaElArchivo) {
+    pruebas::CarpetaTemporal carpeta;
+    EXPECT_THROW(LectorRegistros(carpeta / "no.tmp", 17), Error);
+    EXPECT_FALSE(std::filesystem::exists(carpeta / "no.tmp"));
+}
 
 TEST(EscribirAtomico, ReemplazaEnteroYUnVacioDejaUnArchivoVacio) {
     pruebas::CarpetaTemporal carpeta;
