@@ -114,7 +114,6 @@ TEST(AnexadorRegistros, ElDiscoLlenoEsUnError) {
     }
 }
 
-
 TEST(LectorRegistros, LeeTodoEnOrdenYNadaMas) {
     pruebas::CarpetaTemporal carpeta;
     const auto ruta = carpeta / "Cmb.tmp";

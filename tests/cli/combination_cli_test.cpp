@@ -158,7 +158,8 @@ TEST(CliCombinacion, GenerarSinCarpetaNoTocaLosAlmacenesDelUsuario) {
     const auto uxd = carpeta / "J2.uxd";
     const std::string entorno = "QUINTEVA_CARPETA='" + usuario.Ruta().string() + "'";
     auto r = pruebas::EjecutarCli(
-        "nueva '" + uxd.string() + "' --base \"1X 1 1 1 1 1 1 1 1 1 1 1 1 1\" --pleno 0-0", entorno);
+        "nueva '" + uxd.string() + "' --base \"1X 1 1 1 1 1 1 1 1 1 1 1 1 1\" --pleno 0-0",
+        entorno);
     ASSERT_EQ(r.codigo, 0) << r.errores;
     r = pruebas::EjecutarCli("generar '" + uxd.string() + "'", entorno);
     ASSERT_EQ(r.codigo, 0) << r.errores;
