@@ -473,23 +473,14 @@ void VentanaPrincipal::Abrir(const fs::path& ruta, int reciente) {
     Refrescar();
 }
 
-bool VentanaPrincipal::Guardar() {
-    try {
-        const bool hecho = engine::GuardarMenu(comb_, s_.carpetaTrabajo, s_.carpetaPrograma,
-                                               s_.ajustes, s_.dialogo);
-        RefrescarRecientes();
-        Refrescar();
-        return hecho;
-    } catch (const std::exception& e) {
-        Fallo(e);
-        return false;
-    }
-}
+bool VentanaPrincipal::Guardar() { return GuardarCon(&engine::GuardarMenu); }
 
-bool VentanaPrincipal::GuardarComo() {
+bool VentanaPrincipal::GuardarComo() { return GuardarCon(&engine::GuardarComo); }
+
+bool VentanaPrincipal::GuardarCon(FlujoDeGuardar flujo) {
     try {
-        const bool hecho = engine::GuardarComo(comb_, s_.carpetaTrabajo, s_.carpetaPrograma,
-                                               s_.ajustes, s_.dialogo);
+        const bool hecho =
+            flujo(comb_, s_.carpetaTrabajo, s_.carpetaPrograma, s_.ajustes, s_.dialogo);
         RefrescarRecientes();
         Refrescar();
         return hecho;

@@ -97,6 +97,10 @@ class VentanaPrincipal : public QMainWindow {
     void LimpiarCombinacion(bool vaciarRuta);
     void PonerPartidos(int jornada);
     void Fallo(const std::exception& e);
+    // "&Guardar..." y "G&uardar como" del motor, con el refresco y el manejo de errores comunes.
+    using FlujoDeGuardar = bool (*)(engine::Combinacion&, const std::filesystem::path&,
+                                    const std::filesystem::path&, base::Ajustes&, base::Dialogo&);
+    bool GuardarCon(FlujoDeGuardar flujo);
 
     void SignoPulsado(int partido, int signo);
     void GolTecleado(int lado, const QString& tecla);

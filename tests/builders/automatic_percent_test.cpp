@@ -4,6 +4,7 @@
 
 #include "base/record_files.h"
 #include "seasons/season_folder.h"
+#include "tests/builders/league_fixture.h"
 #include "tests/support/memory_settings.h"
 #include "tests/support/temp_folder.h"
 
@@ -21,17 +22,7 @@ seasons::RegEquipo Equipo(std::string nombre, int puntos, int valoracion, int ca
     return e;
 }
 
-seasons::RegPartidoLiga Liga(int division, int jornada, std::string local, std::string visitante,
-                             int gl, int gv) {
-    seasons::RegPartidoLiga p;
-    p.division = division;
-    p.jornada = jornada;
-    p.local = std::move(local);
-    p.visitante = std::move(visitante);
-    p.golesLocal = gl;
-    p.golesVisitante = gv;
-    return p;
-}
+using pruebas::Liga;
 
 // Jornadas 1 a 5 de primera y una de segunda; la última jugada de primera es la 4.
 std::vector<seasons::RegPartidoLiga> LigaDePrueba() {

@@ -6,6 +6,7 @@
 #include "base/record_files.h"
 #include "seasons/record_files.h"
 #include "seasons/season_folder.h"
+#include "tests/builders/league_fixture.h"
 #include "tests/support/memory_settings.h"
 #include "tests/support/temp_folder.h"
 
@@ -27,18 +28,7 @@ seasons::RegEquipo Equipo(std::string nombre, int division, int posicion, int pu
     return e;
 }
 
-seasons::RegPartidoLiga Liga(int division, int jornada, std::string local, std::string visitante,
-                             int gl, int gv) {
-    seasons::RegPartidoLiga p;
-    p.division = division;
-    p.jornada = jornada;
-    p.local = std::move(local);
-    p.visitante = std::move(visitante);
-    p.golesLocal = gl;
-    p.golesVisitante = gv;
-    p.fecha = base::FechaASerie({2023, 9, jornada});
-    return p;
-}
+using pruebas::Liga;
 
 // Una división de cuatro equipos (seis Jornadas) con tres jugadas.
 struct Temporada {
