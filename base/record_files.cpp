@@ -1,5 +1,6 @@
 #include "base/record_files.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <string>
 #include <system_error>
@@ -127,6 +128,35 @@ void AnexadorRegistros::Volcar() {
 void AnexadorRegistros::Cerrar() {
     Volcar();
     if (std::fclose(archivo_.release()) != 0) FalloDeArchivo(ruta_);
+}
+
+LectorRegistros::LectorRegistros(const std::filesystem::path& ruta, std::size_t longitud)
+    : ruta_(ruta), longitud_(longitud), archivo_(std::fopen(ruta.c_str(), "rb"), &std::fclose) {
+    if (!archivo_) FalloDeArchivo(ruta);
+    cuenta_ =
+        static_cast<std::int32_t>(LongitudDe(archivo_.get(), ruta) / static_cast<long>(longitud));
+    if (std::fseek(archivo_.get(), 0, SEEK_SET) != 0) FalloDeArchivo(ruta);
+}
+
+bool LectorRegistros::Siguiente(std::span<Byte> destino) {
+    if (leidos_ >= cuenta_ || destino.size() != longitud_) return false;
+    if (posicion_ + longitud_ > bufer_.size()) {
+        // Rellena el búfer con registros enteros, conservando lo que quedaba.
+        std::vector<Byte> resto(bufer_.begin() + static_cast<long>(posicion_), bufer_.end());
+        const std::size_t pedidos = std::max<std::size_t>(1, kBufer / longitud_) * longitud_;
+        resto.resize(resto.size() + pedidos);
+        const std::size_t leidos =
+            std::fread(resto.data() + (resto.size() - pedidos), 1, pedidos, archivo_.get());
+        if (leidos < pedidos && std::ferror(archivo_.get())) FalloDeArchivo(ruta_);
+        resto.resize(resto.size() - pedidos + leidos);
+        bufer_ = std::move(resto);
+        posicion_ = 0;
+        if (bufer_.size() < longitud_) return false;
+    }
+    std::copy_n(bufer_.begin() + static_cast<long>(posicion_), longitud_, destino.begin());
+    posicion_ += longitud_;
+    ++leidos_;
+    return true;
 }
 
 }  // namespace quinteva::base

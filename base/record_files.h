@@ -64,6 +64,26 @@ class AnexadorRegistros {
     std::unique_ptr<std::FILE, int (*)(std::FILE*)> archivo_;
 };
 
+// Lee un archivo de registros de principio a fin con un búfer grande, para los recorridos
+// masivos (la reducción lee millones). No crea el archivo: si falta, Error.
+class LectorRegistros {
+  public:
+    LectorRegistros(const std::filesystem::path& ruta, std::size_t longitudRegistro);
+
+    std::int32_t Cuenta() const { return cuenta_; }
+    // El siguiente registro; false cuando ya no quedan.
+    bool Siguiente(std::span<Byte> destino);
+
+  private:
+    std::filesystem::path ruta_;
+    std::size_t longitud_;
+    std::int32_t cuenta_ = 0;
+    std::int32_t leidos_ = 0;
+    std::vector<Byte> bufer_;
+    std::size_t posicion_ = 0;
+    std::unique_ptr<std::FILE, int (*)(std::FILE*)> archivo_;
+};
+
 // Registros de un archivo sin abrirlo ni crearlo: 0 si no existe.
 std::int32_t CuentaRegistros(const std::filesystem::path& ruta, std::size_t longitudRegistro);
 

@@ -115,3 +115,38 @@ TEST(AnexadorRegistros, ElDiscoLlenoEsUnError) {
 
 }  // namespace
 }  // namespace quinteva::base
+
+namespace quinteva::base {
+namespace {
+
+TEST(LectorRegistros, LeeTodoEnOrdenYNadaMas) {
+    pruebas::CarpetaTemporal carpeta;
+    const auto ruta = carpeta / "Cmb.tmp";
+    {
+        AnexadorRegistros anexador(ruta, 3);
+        for (int i = 0; i < 100000; ++i) {
+            const std::array<Byte, 3> r{Byte(i & 0xFF), Byte((i >> 8) & 0xFF), Byte(i >> 16)};
+            anexador.Anadir(r);
+        }
+        anexador.Cerrar();
+    }
+    std::ofstream(ruta, std::ios::binary | std::ios::app) << "x";  // un byte suelto al final
+    LectorRegistros lector(ruta, 3);
+    EXPECT_EQ(lector.Cuenta(), 100000);
+    std::array<Byte, 3> r{};
+    int n = 0;
+    while (lector.Siguiente(r)) {
+        ASSERT_EQ(r[0] | (r[1] << 8) | (r[2] << 16), n);
+        ++n;
+    }
+    EXPECT_EQ(n, 100000);
+}
+
+TEST(LectorRegistros, NoCreaElArchivo) {
+    pruebas::CarpetaTemporal carpeta;
+    EXPECT_THROW(LectorRegistros(carpeta / "no.tmp", 17), Error);
+    EXPECT_FALSE(std::filesystem::exists(carpeta / "no.tmp"));
+}
+
+}  // namespace
+}  // namespace quinteva::base

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+#include "engine/columns.h"
+
+namespace quinteva::engine {
+
+// Código de columna: los 14 signos como cifras de base 3 (1 = 0, X = 1, 2 = 2, el partido 1 la
+// más significativa). -1 si algún carácter no es un signo.
+std::int32_t CodigoColumna(const Columna& columna);
+
+inline constexpr std::int32_t kCodigosColumna = 4782969;  // 3^14
+
+// El recubrimiento voraz, columna a columna: se queda una columna si no está a "distancia" o menos
+// de ninguna de las ya guardadas. Cada columna guardada marca en un mapa de bits todos los
+// códigos que cubre, así que decidir cuesta una consulta. Una columna con caracteres que no son
+// signos (un archivo dañado) no tiene código y se compara texto a texto, como las demás con ella.
+class Recubrimiento {
+  public:
+    explicit Recubrimiento(int distancia);
+
+    // Verdadero si la columna se guarda.
+    bool Considerar(const Columna& columna);
+    const std::vector<Columna>& Guardadas() const { return guardadas_; }
+
+  private:
+    bool Cubierta(const Columna& columna, std::int32_t codigo) const;
+    void Marcar(std::int32_t codigo, const Columna& columna, int desde, int quedan);
+
+    int distancia_;
+    std::vector<std::uint64_t> marcadas_;
+    std::vector<Columna> guardadas_;
+    std::vector<Columna> guardadasSinCodigo_;
+};
+
+}  // namespace quinteva::engine
