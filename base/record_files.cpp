@@ -138,25 +138,21 @@ LectorRegistros::LectorRegistros(const std::filesystem::path& ruta, std::size_t 
     if (std::fseek(archivo_.get(), 0, SEEK_SET) != 0) FalloDeArchivo(ruta);
 }
 
-bool LectorRegistros::Siguiente(std::span<Byte> destino) {
-    if (leidos_ >= cuenta_ || destino.size() != longitud_) return false;
+std::span<const Byte> LectorRegistros::Siguiente() {
+    if (leidos_ >= cuenta_) return {};
     if (posicion_ + longitud_ > bufer_.size()) {
-        // Rellena el búfer con registros enteros, conservando lo que quedaba.
-        std::vector<Byte> resto(bufer_.begin() + static_cast<long>(posicion_), bufer_.end());
-        const std::size_t pedidos = std::max<std::size_t>(1, kBufer / longitud_) * longitud_;
-        resto.resize(resto.size() + pedidos);
-        const std::size_t leidos =
-            std::fread(resto.data() + (resto.size() - pedidos), 1, pedidos, archivo_.get());
-        if (leidos < pedidos && std::ferror(archivo_.get())) FalloDeArchivo(ruta_);
-        resto.resize(resto.size() - pedidos + leidos);
-        bufer_ = std::move(resto);
+        // El búfer se rellena con registros enteros, así que siempre se ha gastado entero.
+        bufer_.resize(std::max<std::size_t>(1, kBufer / longitud_) * longitud_);
+        const std::size_t leidos = std::fread(bufer_.data(), 1, bufer_.size(), archivo_.get());
+        if (leidos < bufer_.size() && std::ferror(archivo_.get())) FalloDeArchivo(ruta_);
+        bufer_.resize(leidos);
         posicion_ = 0;
-        if (bufer_.size() < longitud_) return false;
+        if (bufer_.size() < longitud_) return {};
     }
-    std::copy_n(bufer_.begin() + static_cast<long>(posicion_), longitud_, destino.begin());
+    const std::span<const Byte> registro(bufer_.data() + posicion_, longitud_);
     posicion_ += longitud_;
     ++leidos_;
-    return true;
+    return registro;
 }
 
 }  // namespace quinteva::base

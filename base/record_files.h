@@ -71,8 +71,9 @@ class LectorRegistros {
     LectorRegistros(const std::filesystem::path& ruta, std::size_t longitudRegistro);
 
     std::int32_t Cuenta() const { return cuenta_; }
-    // El siguiente registro; false cuando ya no quedan.
-    bool Siguiente(std::span<Byte> destino);
+    // El siguiente registro, dentro del búfer (válido hasta la siguiente llamada); vacío cuando
+    // ya no quedan.
+    std::span<const Byte> Siguiente();
 
   private:
     std::filesystem::path ruta_;

@@ -41,11 +41,10 @@ std::int32_t EscribirDesarrollo(int triples) {
 
 void BM_LeerCmb(benchmark::State& estado) {
     const std::int32_t total = EscribirDesarrollo(14);
-    std::array<base::Byte, 17> bytes{};
     for (auto _ : estado) {
         base::LectorRegistros cmb(kCarpeta / engine::kCmbTmp, 17);
         std::int64_t suma = 0;
-        while (cmb.Siguiente(bytes)) suma += bytes[0];
+        for (auto r = cmb.Siguiente(); !r.empty(); r = cmb.Siguiente()) suma += r[0];
         benchmark::DoNotOptimize(suma);
     }
     estado.counters["registros"] = total;
@@ -73,8 +72,9 @@ std::vector<std::string> DiezTriples() {
     std::vector<std::string> columnas;
     const std::int32_t total = EscribirDesarrollo(10);
     base::LectorRegistros cmb(kCarpeta / engine::kCmbTmp, 17);
-    std::array<base::Byte, 17> bytes{};
-    while (cmb.Siguiente(bytes)) columnas.emplace_back(bytes.begin(), bytes.begin() + 14);
+    for (auto r = cmb.Siguiente(); !r.empty(); r = cmb.Siguiente()) {
+        columnas.emplace_back(r.begin(), r.begin() + 14);
+    }
     benchmark::DoNotOptimize(total);
     return columnas;
 }

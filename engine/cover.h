@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <vector>
 
@@ -26,8 +27,14 @@ class Recubrimiento {
     const std::vector<Columna>& Guardadas() const { return guardadas_; }
 
   private:
+    using Cambios = std::array<std::array<std::int32_t, 2>, kPartidos>;
+
     bool Cubierta(const Columna& columna, std::int32_t codigo) const;
-    void Marcar(std::int32_t codigo, const Columna& columna, int desde, int quedan);
+    void Marcar(std::int32_t codigo, const Cambios& cambios, int desde, int quedan);
+    void Poner(std::int32_t codigo) {
+        const auto u = static_cast<std::uint32_t>(codigo);
+        marcadas_[u / 64] |= std::uint64_t{1} << (u % 64);
+    }
 
     int distancia_;
     std::vector<std::uint64_t> marcadas_;

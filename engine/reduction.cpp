@@ -1,5 +1,6 @@
 #include "engine/reduction.h"
 
+#include <algorithm>
 #include <system_error>
 
 #include "base/error.h"
@@ -51,9 +52,11 @@ ResultadoReduccion ReducirConCondiciones(Combinacion& comb,
 
     Recubrimiento recubrimiento(distancia);
     ResultadoReduccion resultado;
-    std::array<base::Byte, RegistroColumna::kLongitud> bytes{};
-    for (std::int32_t n = 1; n <= comb.totalGeneradas && cmb.Siguiente(bytes); ++n) {
-        if (!recubrimiento.Considerar(RegistroColumna::DeBytes(bytes).columna)) continue;
+    for (std::int32_t n = 1; n <= comb.totalGeneradas; ++n) {
+        const auto bytes = cmb.Siguiente();
+        Columna columna;
+        std::copy_n(bytes.begin(), kPartidos, columna.begin());
+        if (!recubrimiento.Considerar(columna)) continue;
         progreso.Avance(n, comb.totalGeneradas);
         if (n < comb.totalGeneradas && progreso.Detenido()) {
             resultado.detenida = true;

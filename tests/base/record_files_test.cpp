@@ -133,9 +133,8 @@ TEST(LectorRegistros, LeeTodoEnOrdenYNadaMas) {
     std::ofstream(ruta, std::ios::binary | std::ios::app) << "x";  // un byte suelto al final
     LectorRegistros lector(ruta, 3);
     EXPECT_EQ(lector.Cuenta(), 100000);
-    std::array<Byte, 3> r{};
     int n = 0;
-    while (lector.Siguiente(r)) {
+    for (auto r = lector.Siguiente(); !r.empty(); r = lector.Siguiente()) {
         ASSERT_EQ(r[0] | (r[1] << 8) | (r[2] << 16), n);
         ++n;
     }
