@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include "engine/columns.h"
+#include "engine/conditions.h"
 #include "engine/quiniela_base.h"
 
 namespace quinteva::engine {
@@ -50,6 +51,10 @@ struct Combinacion {
     PlenoBase pleno{' ', ' '};
     // RutaCombinacion: el ".uxd"; vacía mientras no se ha guardado nunca.
     std::filesystem::path ruta;
+    // Número de Jornada y conjunto jugado ("cnd", "red" o "" si no se eligió).
+    std::uint8_t jornada = 0;
+    std::string jugada;
+    SetCondiciones condiciones;
 
     std::int32_t totalGeneradas = 0;
     std::int32_t activasGeneradas = 0;
