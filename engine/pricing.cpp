@@ -1,7 +1,6 @@
 #include "engine/pricing.h"
 
 #include <algorithm>
-#include <cstdlib>
 #include <string>
 
 namespace quinteva::engine {
@@ -9,7 +8,11 @@ namespace quinteva::engine {
 float PrecioColumna(const base::Ajustes& ajustes) {
     std::string texto = ajustes.Leer(base::kAplicacion, "Opciones", "PrecioApu15", "0.75");
     std::replace(texto.begin(), texto.end(), ',', '.');
-    return std::strtof(texto.c_str(), nullptr);
+    try {
+        return std::stof(texto);
+    } catch (const std::exception&) {
+        return 0.75F;  // un valor ilegible en los ajustes no deja el programa sin precio
+    }
 }
 
 double Importe(std::int64_t columnas, const base::Ajustes& ajustes) {
