@@ -19,10 +19,17 @@ namespace {
 
 using namespace engine;
 
-constexpr std::array<const char*, kCasillas> kFamilias = {
-    "Generales", "Seguidos",  "Interrupciones", "Parejas",      "Tríos",
-    "",          "",          "Sumas",          "Comparaciones", "Repeticiones",
-    "Interrupciones consecutivas"};
+constexpr std::array<const char*, kCasillas> kFamilias = {"Generales",
+                                                          "Seguidos",
+                                                          "Interrupciones",
+                                                          "Parejas",
+                                                          "Tríos",
+                                                          "",
+                                                          "",
+                                                          "Sumas",
+                                                          "Comparaciones",
+                                                          "Repeticiones",
+                                                          "Interrupciones consecutivas"};
 
 // "1X2 1 X 12 ...": 14 conjuntos no vacíos de 1, X, 2 en cualquier orden y caja.
 QuinielaBase LeerBase(std::string_view texto) {
@@ -37,7 +44,8 @@ QuinielaBase LeerBase(std::string_view texto) {
     for (int p = 1; p <= kPartidos; ++p) {
         const std::string& f = fichas[static_cast<std::size_t>(p - 1)];
         for (char ch : f) {
-            const int s = IndiceSigno(static_cast<char>(std::toupper(static_cast<unsigned char>(ch))));
+            const int s =
+                IndiceSigno(static_cast<char>(std::toupper(static_cast<unsigned char>(ch))));
             if (s < 0 || base.Elegido(p, s)) {
                 throw ErrorDeUso{"El partido " + std::to_string(p) + " (\"" + f +
                                  "\") no es un conjunto de signos 1, X, 2"};
@@ -66,7 +74,9 @@ std::filesystem::path RutaUxd(const Argumentos& a, std::string_view uso) {
 }
 
 // Ajustes propios de la línea de órdenes, en la carpeta de trabajo.
-base::AjustesIni AjustesDe(const std::filesystem::path& carpeta) { return base::AjustesIni(carpeta); }
+base::AjustesIni AjustesDe(const std::filesystem::path& carpeta) {
+    return base::AjustesIni(carpeta);
+}
 
 }  // namespace
 
@@ -118,8 +128,8 @@ int Nueva(const Argumentos& a, std::ostream& salida) {
     const auto ajustes = AjustesDe(carpeta);
     Guardar(c, carpeta, ajustes);
     if (a.Json()) {
-        salida << "{\"Nombre\": " << TextoJson(c.panel.nombre) << ", \"ApuestasPosibles\": "
-               << static_cast<std::int64_t>(base.Columnas()) << "}\n";
+        salida << "{\"Nombre\": " << TextoJson(c.panel.nombre)
+               << ", \"ApuestasPosibles\": " << static_cast<std::int64_t>(base.Columnas()) << "}\n";
     } else {
         salida << "Creada " << ruta.string() << " (" << static_cast<std::int64_t>(base.Columnas())
                << " apuestas posibles)\n";
@@ -145,14 +155,16 @@ int Info(const Argumentos& a, std::ostream& salida) {
     const std::string pleno = TextoDePleno(c.pleno);
 
     if (a.Json()) {
-        salida << "{\"Nombre\": " << TextoJson(c.panel.nombre) << ", \"Jornada\": " << int{r.jornada}
-               << ", \"Base\": " << TextoJson(TextoBase(c.base)) << ", \"PlenoBase\": " << TextoJson(pleno)
-               << ", \"Jugada\": " << TextoJson(c.jugada) << ", \"AlDirecto\": " << r.alDirecto
-               << ", \"Condicionada\": " << r.condicionada << ", \"Al13\": " << r.al13
-               << ", \"Al12\": " << r.al12 << ", \"Al11\": " << r.al11 << ", \"Al10\": " << r.al10
-               << ", \"Dobles\": " << int{r.dobles} << ", \"Triples\": " << int{r.triples}
-               << ", \"FamiliasActivas\": [";
-        for (std::size_t i = 0; i < activas.size(); ++i) salida << (i ? ", " : "") << TextoJson(activas[i]);
+        salida << "{\"Nombre\": " << TextoJson(c.panel.nombre)
+               << ", \"Jornada\": " << int{r.jornada}
+               << ", \"Base\": " << TextoJson(TextoBase(c.base))
+               << ", \"PlenoBase\": " << TextoJson(pleno) << ", \"Jugada\": " << TextoJson(c.jugada)
+               << ", \"AlDirecto\": " << r.alDirecto << ", \"Condicionada\": " << r.condicionada
+               << ", \"Al13\": " << r.al13 << ", \"Al12\": " << r.al12 << ", \"Al11\": " << r.al11
+               << ", \"Al10\": " << r.al10 << ", \"Dobles\": " << int{r.dobles}
+               << ", \"Triples\": " << int{r.triples} << ", \"FamiliasActivas\": [";
+        for (std::size_t i = 0; i < activas.size(); ++i)
+            salida << (i ? ", " : "") << TextoJson(activas[i]);
         salida << "], \"NumCondiciones\": " << n << "}\n";
         return 0;
     }
@@ -160,8 +172,8 @@ int Info(const Argumentos& a, std::ostream& salida) {
            << "\nBase: " << TextoBase(c.base) << "\nPleno al 15: " << pleno
            << "\nAl Directo: " << r.alDirecto << "\nCondicionada: " << r.condicionada
            << "\nal 13: " << r.al13 << "\nal 12: " << r.al12 << "\nal 11: " << r.al11
-           << "\nal 10: " << r.al10 << "\nDobles: " << int{r.dobles} << "\nTriples: " << int{r.triples}
-           << "\nFamilias activas: ";
+           << "\nal 10: " << r.al10 << "\nDobles: " << int{r.dobles}
+           << "\nTriples: " << int{r.triples} << "\nFamilias activas: ";
     for (std::size_t i = 0; i < activas.size(); ++i) salida << (i ? ", " : "") << activas[i];
     salida << "\nNº Condiciones: " << n << '\n';
     return 0;
@@ -182,9 +194,12 @@ int GenerarCmd(const Argumentos& a, std::ostream& salida) {
     const auto posibles = static_cast<std::int64_t>(c.apuestasPosibles);
     if (a.Json()) {
         const auto& r = c.rechazos;
-        salida << "{\"ApuestasPosibles\": " << posibles << ", \"TotalGeneradas\": " << c.totalGeneradas
-               << ", \"ActivasGeneradas\": " << c.activasGeneradas << ", \"RechazosPorCondicion\": [";
-        for (std::size_t i = 0; i < 9; ++i) salida << (i ? ", " : "") << static_cast<std::int64_t>(r.porCondicion[i]);
+        salida << "{\"ApuestasPosibles\": " << posibles
+               << ", \"TotalGeneradas\": " << c.totalGeneradas
+               << ", \"ActivasGeneradas\": " << c.activasGeneradas
+               << ", \"RechazosPorCondicion\": [";
+        for (std::size_t i = 0; i < 9; ++i)
+            salida << (i ? ", " : "") << static_cast<std::int64_t>(r.porCondicion[i]);
         salida << "], \"RechazosGrupo\": [";
         for (std::size_t i = 0; i < 50; ++i) salida << (i ? ", " : "") << r.grupo[i];
         salida << "], \"RechazosGrupoAc\": [";
@@ -209,14 +224,14 @@ int Analizar(const Argumentos& a, std::ostream& salida) {
     if (!texto) throw ErrorDeUso{"Uso: quinteva-cli " + std::string(kUso)};
     std::string columna = *texto;
     for (char& ch : columna) ch = static_cast<char>(std::toupper(static_cast<unsigned char>(ch)));
-    if (columna.size() != kPartidos ||
-        columna.find_first_not_of("1X2") != std::string::npos) {
+    if (columna.size() != kPartidos || columna.find_first_not_of("1X2") != std::string::npos) {
         throw ErrorDeUso{"La columna ha de tener 14 signos 1, X o 2"};
     }
     Combinacion c;
     c.ruta = ruta;
     CargarCabecera(c, LeerCabecera(ruta));
-    for (const auto& f : Analisis(ColumnaDeTexto(columna), c.base, c.condiciones, ArchivoJugado(c))) {
+    for (const auto& f :
+         Analisis(ColumnaDeTexto(columna), c.base, c.condiciones, ArchivoJugado(c))) {
         salida << f.primera << '\t' << f.segunda << '\n';
     }
     return 0;

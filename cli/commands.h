@@ -26,5 +26,7 @@ int Nueva(const Argumentos& argumentos, std::ostream& salida);
 int Info(const Argumentos& argumentos, std::ostream& salida);
 int GenerarCmd(const Argumentos& argumentos, std::ostream& salida);
 int Analizar(const Argumentos& argumentos, std::ostream& salida);
+int ReducirCmd(const Argumentos& argumentos, std::ostream& salida);
+int Tablas(const Argumentos& argumentos, std::ostream& salida);
 
 }  // namespace quinteva::cli
