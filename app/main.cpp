@@ -1,5 +1,10 @@
 #include <QApplication>
-#include <QMessageBox>
+#include <QDir>
+#include <QLockFile>
+#include <QPainter>
+#include <QScreen>
+#include <QSplashScreen>
+#include <QTimer>
 
 #include "base/error.h"
 #include "base/working_folder.h"
@@ -8,11 +13,43 @@
 #include "ui/settings_qt.h"
 #include "ui/working_folder_qt.h"
 
+namespace {
+
+// La ventana de presentación: el nombre del programa sobre un fondo verde.
+QPixmap Presentacion() {
+    QPixmap imagen(420, 220);
+    imagen.fill(QColor(40, 120, 60));
+    QPainter p(&imagen);
+    p.setPen(Qt::white);
+    QFont letra = p.font();
+    letra.setPointSize(36);
+    letra.setBold(true);
+    p.setFont(letra);
+    p.drawText(imagen.rect().adjusted(0, -30, 0, -30), Qt::AlignCenter, QStringLiteral("Quinteva"));
+    letra.setPointSize(11);
+    letra.setBold(false);
+    p.setFont(letra);
+    p.drawText(imagen.rect().adjusted(0, 70, 0, 0), Qt::AlignCenter,
+               QStringLiteral("Quiniela y Pleno al 15"));
+    return imagen;
+}
+
+}  // namespace
+
 int main(int argc, char** argv) {
     QApplication aplicacion(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Quinteva"));
-
     quinteva::ui::DialogoQt dialogo;
+
+    QLockFile unaSolaCopia(QDir::temp().filePath(
+        QStringLiteral("Quinteva-%1.lock").arg(qEnvironmentVariable("USER"))));
+    if (!unaSolaCopia.tryLock(100)) {
+        dialogo.Mensaje("Ya está cargado el programa.", quinteva::base::Icono::Aviso);
+        return 0;
+    }
+
+    QSplashScreen presentacion(Presentacion());
+    presentacion.show();
     const auto carpeta = quinteva::ui::CarpetaTrabajoDelPrograma();
     try {
         quinteva::base::AsegurarCarpeta(carpeta);
@@ -21,8 +58,19 @@ int main(int argc, char** argv) {
         return 1;
     }
     quinteva::ui::AjustesQt ajustes(carpeta);
-    quinteva::ui::VentanaPrincipal ventana({carpeta, ajustes, dialogo});
+    const std::filesystem::path programa = QApplication::applicationDirPath().toStdString();
+    quinteva::ui::VentanaPrincipal ventana({carpeta, programa, ajustes, dialogo});
     dialogo.FijarMadre(&ventana);
+    const QStringList argumentos = QApplication::arguments();
+    std::optional<std::filesystem::path> archivo;
+    if (argumentos.size() > 1) archivo = argumentos.at(1).toStdString();
+    ventana.Arrancar(archivo);
+
+    const QRect pantalla = ventana.screen()->availableGeometry();
+    ventana.resize(ventana.size().boundedTo(pantalla.size()));
+    ventana.move(pantalla.center() - ventana.rect().center());
     ventana.show();
+    QTimer::singleShot(800, &presentacion, &QWidget::close);
+    QTimer::singleShot(0, &ventana, &quinteva::ui::VentanaPrincipal::Bienvenida);
     return QApplication::exec();
 }

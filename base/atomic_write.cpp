@@ -31,8 +31,9 @@ void EscribirAtomico(const std::filesystem::path& ruta, std::string_view conteni
         std::unique_ptr<std::FILE, int (*)(std::FILE*)> f(std::fopen(temporal.c_str(), "wb"),
                                                           &std::fclose);
         if (!f) FalloDeArchivo(temporal);
-        const bool escrito =
-            std::fwrite(contenido.data(), 1, contenido.size(), f.get()) == contenido.size();
+        // Un contenido vacío puede no tener datos: no se pasa un puntero nulo a fwrite.
+        const bool escrito = contenido.empty() || std::fwrite(contenido.data(), 1, contenido.size(),
+                                                              f.get()) == contenido.size();
         if (!escrito || std::fclose(f.release()) != 0) {
             const int causa = errno;
             std::error_code ignorado;

@@ -5,34 +5,12 @@
 #include <sstream>
 
 #include "base/atomic_write.h"
+#include "base/utf8.h"
 
 namespace quinteva::base {
 namespace {
 
 constexpr char kHex[] = "0123456789ABCDEF";
-
-// Lee un carácter UTF-8 (entrada ya válida: la escriben el programa o QSettings).
-char32_t SiguienteCodigo(std::string_view s, std::size_t& i) {
-    const auto b = static_cast<unsigned char>(s[i++]);
-    if (b < 0x80) return b;
-    const int resto = b >= 0xF0 ? 3 : b >= 0xE0 ? 2 : 1;
-    char32_t cp = b & (0x3F >> resto);
-    for (int k = 0; k < resto && i < s.size(); ++k) cp = (cp << 6) | (s[i++] & 0x3F);
-    return cp;
-}
-
-void AnadirUtf8(std::string& s, char32_t cp) {
-    if (cp < 0x80) {
-        s += static_cast<char>(cp);
-    } else if (cp < 0x800) {
-        s += static_cast<char>(0xC0 | (cp >> 6));
-        s += static_cast<char>(0x80 | (cp & 0x3F));
-    } else {
-        s += static_cast<char>(0xE0 | (cp >> 12));
-        s += static_cast<char>(0x80 | ((cp >> 6) & 0x3F));
-        s += static_cast<char>(0x80 | (cp & 0x3F));
-    }
-}
 
 bool Llano(char32_t c) {
     return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '_' ||
@@ -42,7 +20,7 @@ bool Llano(char32_t c) {
 std::string EscaparClave(std::string_view clave) {
     std::string salida;
     for (std::size_t i = 0; i < clave.size();) {
-        const char32_t c = SiguienteCodigo(clave, i);
+        const char32_t c = LeerUtf8(clave, i).value_or(U'?');
         if (c == '/') {
             salida += '\\';
         } else if (Llano(c)) {

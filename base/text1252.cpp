@@ -1,8 +1,9 @@
 #include "base/text1252.h"
 
+#include "base/utf8.h"
+
 #include <array>
 #include <cstdint>
-#include <optional>
 
 namespace quinteva::base {
 namespace {
@@ -20,48 +21,6 @@ char ByteDe(char32_t cp) {
         if (kAltos[i] == cp) return static_cast<char>(0x80 + i);
     }
     return '?';
-}
-
-void AnadirUtf8(std::string& salida, char32_t cp) {
-    if (cp < 0x80) {
-        salida += static_cast<char>(cp);
-    } else if (cp < 0x800) {
-        salida += static_cast<char>(0xC0 | (cp >> 6));
-        salida += static_cast<char>(0x80 | (cp & 0x3F));
-    } else {
-        salida += static_cast<char>(0xE0 | (cp >> 12));
-        salida += static_cast<char>(0x80 | ((cp >> 6) & 0x3F));
-        salida += static_cast<char>(0x80 | (cp & 0x3F));
-    }
-}
-
-// Lee un carácter UTF-8 desde la posición i y la avanza; una secuencia mal formada da nullopt y
-// avanza un byte.
-std::optional<char32_t> LeerUtf8(std::string_view s, std::size_t& i) {
-    const auto b0 = static_cast<std::uint8_t>(s[i++]);
-    if (b0 < 0x80) return b0;
-    int resto = 0;
-    char32_t cp = 0;
-    if ((b0 & 0xE0) == 0xC0) {
-        resto = 1;
-        cp = b0 & 0x1F;
-    } else if ((b0 & 0xF0) == 0xE0) {
-        resto = 2;
-        cp = b0 & 0x0F;
-    } else if ((b0 & 0xF8) == 0xF0) {
-        resto = 3;
-        cp = b0 & 0x07;
-    } else {
-        return std::nullopt;
-    }
-    for (int k = 0; k < resto; ++k) {
-        if (i >= s.size()) return std::nullopt;
-        const auto b = static_cast<std::uint8_t>(s[i]);
-        if ((b & 0xC0) != 0x80) return std::nullopt;
-        cp = (cp << 6) | (b & 0x3F);
-        ++i;
-    }
-    return cp;
 }
 
 }  // namespace

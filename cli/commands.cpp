@@ -44,6 +44,48 @@ std::span<const Subcomando> Subcomandos() {
          "reducido, una por línea.",
          {{}, {"sistema"}},
          &Tablas},
+        {"oficial",
+         "oficial RUTA.uxd --receptor NNNNN --jornada N --salida DIR/NOMBRE [--anio AAAA]",
+         "Escribe DIR/NOMBRE.json, el archivo oficial de apuestas del juego jugado de la "
+         "Combinación (el año, de la fecha de su Jornada si no se da).",
+         {{"receptor", "jornada", "salida", "anio"}, {}},
+         &Oficial},
+        {"json-leer",
+         "json-leer F.json [--json]",
+         "Los datos que muestra \"Archivo JSON\" de un archivo oficial.",
+         {},
+         &JsonLeer},
+        {"json-modificar",
+         "json-modificar F.json [--jornada N] [--anio AAAA] [--receptor NNNNN] [--json]",
+         "Cambia Jornada, año o Receptor de un archivo oficial y lo guarda con su resumen nuevo.",
+         {{"jornada", "anio", "receptor"}, {}},
+         &JsonModificar},
+        {"ajustar",
+         "ajustar RUTA.uxd --juego cnd|red --apuestas N [--carpeta DIR] [--json]",
+         "Elige el conjunto jugado y ajusta sus columnas activas a N, como la página Boletos. "
+         "Contesta Sí a seguir (base muy ajustada, bajar el número) y No a añadir a mano: la "
+         "columna que complete el último Boleto se añade al azar. Un N rechazado sale con el "
+         "mensaje del sistema y código 1.",
+         {{"juego", "apuestas"}, {}},
+         &AjustarCmd},
+        {"eliminar",
+         "eliminar RUTA.uxd --juego cnd|red --regla mas|menos|igual N unos|equis|doses|variantes "
+         "[--carpeta DIR] [--json]",
+         "Excluye las columnas con más de, menos de o exactamente N signos de esa clase, y cierra "
+         "como la ventana: si el último Boleto queda con una sola columna, añade una al azar.",
+         {{"juego", "regla"}, {}},
+         &EliminarCmd},
+        {"jugar-todas",
+         "jugar-todas RUTA.uxd --juego cnd|red [--carpeta DIR] [--json]",
+         "Vuelve a jugar todas las columnas del conjunto (\"Jugar Todas\").",
+         {{"juego"}, {}},
+         &JugarTodasCmd},
+        {"texto",
+         "texto RUTA.uxd --formato separadores|columna|continuo --salida F.txt [--json]",
+         "Escribe las columnas activas del conjunto jugado con el Pleno al 15, una por registro; "
+         "sobrescribe F.txt si ya existe.",
+         {{"formato", "salida"}, {}},
+         &TextoCmd},
     };
     return subcomandos;
 }

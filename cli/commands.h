@@ -28,5 +28,12 @@ int GenerarCmd(const Argumentos& argumentos, std::ostream& salida);
 int Analizar(const Argumentos& argumentos, std::ostream& salida);
 int ReducirCmd(const Argumentos& argumentos, std::ostream& salida);
 int Tablas(const Argumentos& argumentos, std::ostream& salida);
+int Oficial(const Argumentos& argumentos, std::ostream& salida);
+int JsonLeer(const Argumentos& argumentos, std::ostream& salida);
+int JsonModificar(const Argumentos& argumentos, std::ostream& salida);
+int AjustarCmd(const Argumentos& argumentos, std::ostream& salida);
+int EliminarCmd(const Argumentos& argumentos, std::ostream& salida);
+int JugarTodasCmd(const Argumentos& argumentos, std::ostream& salida);
+int TextoCmd(const Argumentos& argumentos, std::ostream& salida);
 
 }  // namespace quinteva::cli

@@ -1,27 +1,29 @@
 #include "cli/private_folder.h"
 
-#include <unistd.h>
+#include <random>
+#include <string>
 
-#include <chrono>
-#include <system_error>
-
+#include "base/error.h"
 #include "base/working_folder.h"
 
 namespace quinteva::cli {
 
-CarpetaPrivada::CarpetaPrivada(const std::optional<std::string>& indicada) : propia_(!indicada) {
-    if (indicada) {
-        ruta_ = *indicada;
-    } else {
-        const auto marca = std::chrono::steady_clock::now().time_since_epoch().count();
-        ruta_ = std::filesystem::temp_directory_path() /
-                ("quinteva-cli-" + std::to_string(::getpid()) + "-" + std::to_string(marca));
+CarpetaDeAlmacenes::CarpetaDeAlmacenes(const Argumentos& argumentos) {
+    if (argumentos.Valor("carpeta")) {
+        ruta_ = argumentos.CarpetaTrabajo();
+        base::AsegurarCarpeta(ruta_);
+        return;
     }
-    base::AsegurarCarpeta(ruta_);
+    std::random_device azar;
+    for (int intento = 0; intento < 100 && !privada_; ++intento) {
+        ruta_ = std::filesystem::temp_directory_path() / ("quinteva-cli-" + std::to_string(azar()));
+        privada_ = std::filesystem::create_directory(ruta_);
+    }
+    if (!privada_) throw base::Error("No se pudo crear el directorio de trabajo");
 }
 
-CarpetaPrivada::~CarpetaPrivada() {
-    if (!propia_) return;
+CarpetaDeAlmacenes::~CarpetaDeAlmacenes() {
+    if (!privada_) return;
     std::error_code ignorado;
     std::filesystem::remove_all(ruta_, ignorado);
 }

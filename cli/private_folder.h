@@ -1,26 +1,26 @@
 #pragma once
 
 #include <filesystem>
-#include <optional>
-#include <string>
+
+#include "cli/arguments.h"
 
 namespace quinteva::cli {
 
-// La carpeta donde la línea de órdenes deja "Cmb.tmp" y "Red.tmp": la de --carpeta si se dio; si
-// no, una temporal propia que se borra al acabar, para no pisar los almacenes de trabajo del
-// programa de escritorio que pueda estar abierto.
-class CarpetaPrivada {
+// La carpeta de los almacenes ("Cmb.tmp", "Red.tmp") de un subcomando: --carpeta si se dio; si
+// no, una carpeta temporal propia que se borra al acabar, para no pisar los almacenes de un
+// programa abierto.
+class CarpetaDeAlmacenes {
   public:
-    explicit CarpetaPrivada(const std::optional<std::string>& indicada);
-    ~CarpetaPrivada();
-    CarpetaPrivada(const CarpetaPrivada&) = delete;
-    CarpetaPrivada& operator=(const CarpetaPrivada&) = delete;
+    explicit CarpetaDeAlmacenes(const Argumentos& argumentos);
+    ~CarpetaDeAlmacenes();
+    CarpetaDeAlmacenes(const CarpetaDeAlmacenes&) = delete;
+    CarpetaDeAlmacenes& operator=(const CarpetaDeAlmacenes&) = delete;
 
     const std::filesystem::path& Ruta() const { return ruta_; }
 
   private:
     std::filesystem::path ruta_;
-    bool propia_;
+    bool privada_ = false;
 };
 
 }  // namespace quinteva::cli

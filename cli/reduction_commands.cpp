@@ -76,7 +76,7 @@ int ReducirCmd(const Argumentos& a, std::ostream& salida) {
     const auto seleccion = Seleccion(a.Valor("partidos"));
 
     const base::AjustesIni ajustes(a.CarpetaTrabajo());
-    const CarpetaPrivada trabajo(a.Valor("carpeta"));
+    const CarpetaDeAlmacenes trabajo(a);
     engine::Combinacion c;
     c.ruta = a.Posicionales()[0];
     engine::Abrir(c, trabajo.Ruta(), ajustes);

@@ -12,9 +12,7 @@ namespace {
 
 std::string N(int v) { return std::to_string(v); }
 
-int Contar(const Columna& c, char s) {
-    return static_cast<int>(std::count(c.begin(), c.end(), s));
-}
+int Contar(const Columna& c, char s) { return static_cast<int>(std::count(c.begin(), c.end(), s)); }
 
 int RachaDe(const Columna& c, bool (*es)(char)) {
     int mayor = 0, actual = 0;
@@ -38,7 +36,9 @@ std::vector<FilaInforme> Analisis(const Columna& col, const QuinielaBase& base,
                                   const SetCondiciones& c,
                                   const std::filesystem::path& archivoJugado) {
     std::vector<FilaInforme> filas;
-    auto fila = [&](std::string a, std::string b) { filas.push_back({std::move(a), std::move(b)}); };
+    auto fila = [&](std::string a, std::string b) {
+        filas.push_back({std::move(a), std::move(b)});
+    };
 
     for (int p = 0; p < kPartidos; ++p) {
         const int s = IndiceSigno(col[static_cast<std::size_t>(p)]);
@@ -58,15 +58,19 @@ std::vector<FilaInforme> Analisis(const Columna& col, const QuinielaBase& base,
         }
     }
     if (c.casilla[kCasillaInterrupciones]) {
-        if (cambios > c.maxInter) fila("Interrupciones totales", "Más de " + N(c.maxInter) + " Interrupciones");
-        if (cambios < c.minInter) fila("Interrupciones totales", "Menos de " + N(c.minInter) + " Interrupciones");
+        if (cambios > c.maxInter)
+            fila("Interrupciones totales", "Más de " + N(c.maxInter) + " Interrupciones");
+        if (cambios < c.minInter)
+            fila("Interrupciones totales", "Menos de " + N(c.minInter) + " Interrupciones");
     }
     if (c.casilla[kCasillaInterConsecutivas]) {
         if (mayorSeguidos > c.maxInterCons) {
-            fila("Interrupciones consecutivas", "Más de " + N(c.maxInterCons) + " Interrupciones seguidas");
+            fila("Interrupciones consecutivas",
+                 "Más de " + N(c.maxInterCons) + " Interrupciones seguidas");
         }
         if (mayorSeguidos < c.minInterCons) {
-            fila("Interrupciones consecutivas", "Menos de " + N(c.minInterCons) + " Interrupciones seguidas");
+            fila("Interrupciones consecutivas",
+                 "Menos de " + N(c.minInterCons) + " Interrupciones seguidas");
         }
     }
 
@@ -86,7 +90,7 @@ std::vector<FilaInforme> Analisis(const Columna& col, const QuinielaBase& base,
 
     if (c.casilla[kCasillaSeguidos]) {
         static constexpr const char* kNombres[4] = {" Unos seguidos", " Equis seguidas",
-                                                   " Doses seguidos", " Variantes seguidas"};
+                                                    " Doses seguidos", " Variantes seguidas"};
         for (std::size_t k = 0; k < 4; ++k) {
             if (c.minSeg[k] == c.posMinSeg[k] && c.maxSeg[k] == c.posMaxSeg[k]) continue;
             const int racha = k < 3 ? RachaMasLarga(MascarasDe(col).m[k])
@@ -115,8 +119,10 @@ std::vector<FilaInforme> Analisis(const Columna& col, const QuinielaBase& base,
             const auto u = static_cast<std::size_t>(i);
             if (c.minPareja[u] == 0 && c.maxPareja[u] >= SinLimitePareja(i)) continue;
             const int n = ContarSolapadas(col, kTextoParejas[u]);
-            if (n > c.maxPareja[u]) fila("Parejas", "Más de " + N(c.maxPareja[u]) + " Parejas  " + kTextoParejas[u]);
-            if (n < c.minPareja[u]) fila("Parejas", "Menos de " + N(c.minPareja[u]) + " Parejas  " + kTextoParejas[u]);
+            if (n > c.maxPareja[u])
+                fila("Parejas", "Más de " + N(c.maxPareja[u]) + " Parejas  " + kTextoParejas[u]);
+            if (n < c.minPareja[u])
+                fila("Parejas", "Menos de " + N(c.minPareja[u]) + " Parejas  " + kTextoParejas[u]);
         }
     }
     if (c.casilla[kCasillaTrios]) {
@@ -158,11 +164,13 @@ std::vector<FilaInforme> Analisis(const Columna& col, const QuinielaBase& base,
                 const std::string titulo = "Grupo nº " + N(g + 1);
                 if (n[k] < grupo.min[k]) {
                     falla = true;
-                    if (c.toleranciaGrupos == 0) fila(titulo, "Menos de " + N(grupo.min[k]) + kClases[k]);
+                    if (c.toleranciaGrupos == 0)
+                        fila(titulo, "Menos de " + N(grupo.min[k]) + kClases[k]);
                 }
                 if (n[k] > grupo.max[k]) {
                     falla = true;
-                    if (c.toleranciaGrupos == 0) fila(titulo, "Más de " + N(grupo.max[k]) + kClases[k]);
+                    if (c.toleranciaGrupos == 0)
+                        fila(titulo, "Más de " + N(grupo.max[k]) + kClases[k]);
                 }
             }
             fallados += falla ? 1 : 0;
@@ -180,13 +188,17 @@ std::vector<FilaInforme> Analisis(const Columna& col, const QuinielaBase& base,
             for (int p = 0; p < kPartidos; ++p) {
                 if (!grupo.EsDelGrupo(p)) continue;
                 const auto& celda = grupo.signos[static_cast<std::size_t>(p)];
-                if (std::find(celda.begin(), celda.end(), col[static_cast<std::size_t>(p)]) != celda.end()) ++aciertos;
+                if (std::find(celda.begin(), celda.end(), col[static_cast<std::size_t>(p)]) !=
+                    celda.end())
+                    ++aciertos;
             }
             const std::string titulo = "Aciertos nº " + N(g + 1);
             if (aciertos < grupo.aciertosMin || aciertos > grupo.aciertosMax) ++fallados;
             if (c.toleranciaGruposAc != 0) continue;
-            if (aciertos < grupo.aciertosMin) fila(titulo, "Más de " + N(grupo.aciertosMax) + " Errores");
-            if (aciertos > grupo.aciertosMax) fila(titulo, "Menos de " + N(grupo.aciertosMin) + " Errores");
+            if (aciertos < grupo.aciertosMin)
+                fila(titulo, "Más de " + N(grupo.aciertosMax) + " Errores");
+            if (aciertos > grupo.aciertosMax)
+                fila(titulo, "Menos de " + N(grupo.aciertosMin) + " Errores");
         }
         if (c.toleranciaGruposAc > 0 && fallados > c.toleranciaGruposAc) {
             fila("Grupos de Aciertos", "Más de " + N(c.toleranciaGruposAc) + " Grupos fallados");
@@ -208,9 +220,9 @@ std::vector<FilaInforme> Analisis(const Columna& col, const QuinielaBase& base,
     }
 
     if (c.casilla[kCasillaRepeticiones]) {
-        static constexpr const char* kNombres[4] = {"Unos repetidos no se cumple", "Equis repetidas no se cumple",
-                                                   "Doses repetidos no se cumple",
-                                                   "Variantes repetidas no se cumple"};
+        static constexpr const char* kNombres[4] = {
+            "Unos repetidos no se cumple", "Equis repetidas no se cumple",
+            "Doses repetidos no se cumple", "Variantes repetidas no se cumple"};
         const Mascaras m = MascarasDe(col);
         for (std::size_t k = 0; k < 4; ++k) {
             if (c.limiteRep[k] == 0) continue;
@@ -255,7 +267,8 @@ std::vector<FilaInforme> FilasRechazadas(const Rechazos& r, int toleranciaGrupos
     fila("Tríos", r.porCondicion[5]);
     for (std::size_t g = 0; g < 50; ++g) fila("Grupo nº " + N(static_cast<int>(g + 1)), r.grupo[g]);
     fila("Más de " + N(toleranciaGrupos) + " Grupos fallados", r.tolGrupos);
-    for (std::size_t g = 0; g < 50; ++g) fila("Aciertos nº " + N(static_cast<int>(g + 1)), r.grupoAciertos[g]);
+    for (std::size_t g = 0; g < 50; ++g)
+        fila("Aciertos nº " + N(static_cast<int>(g + 1)), r.grupoAciertos[g]);
     fila("Más de " + N(toleranciaGruposAc) + " Grupos de Ac. fallados", r.tolGruposAciertos);
     fila("Sumas", r.porCondicion[6]);
     fila("Comparaciones", r.porCondicion[7]);

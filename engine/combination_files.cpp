@@ -1,5 +1,7 @@
 #include "engine/combination_files.h"
 
+#include "engine/pricing.h"
+
 #include <algorithm>
 #include <cstdio>
 #include <fstream>
@@ -34,11 +36,17 @@ struct Escritor {
 struct Lector {
     std::span<const Byte> b;
     template <typename T>
-    void U8(std::size_t pos, T& v) { v = static_cast<T>(base::TomarByte(b, pos)); }
+    void U8(std::size_t pos, T& v) {
+        v = static_cast<T>(base::TomarByte(b, pos));
+    }
     template <typename T>
-    void I16(std::size_t pos, T& v) { v = static_cast<T>(base::TomarInt16(b, pos)); }
+    void I16(std::size_t pos, T& v) {
+        v = static_cast<T>(base::TomarInt16(b, pos));
+    }
     template <typename T>
-    void I32(std::size_t pos, T& v) { v = static_cast<T>(base::TomarInt32(b, pos)); }
+    void I32(std::size_t pos, T& v) {
+        v = static_cast<T>(base::TomarInt32(b, pos));
+    }
     void Casilla(std::size_t pos, bool& v) { v = base::TomarByte(b, pos) != 0; }
     void Marca16(std::size_t pos, bool& v) { v = base::TomarInt16(b, pos) != 0; }
     void Texto(std::size_t pos, std::size_t ancho, std::string& v) {
@@ -59,7 +67,8 @@ void Campos(IO& io, R& r) {
     io.I32(31, r.al12);
     io.I32(35, r.al11);
     for (std::size_t col = 0; col < 3; ++col) {
-        for (std::size_t fila = 0; fila < 15; ++fila) io.U8(39 + col * 15 + fila, r.celdas[col][fila]);
+        for (std::size_t fila = 0; fila < 15; ++fila)
+            io.U8(39 + col * 15 + fila, r.celdas[col][fila]);
     }
     // 84: 15 bytes reservados; 104: dos bytes de las casillas 5 y 6. Quedan a 0.
     for (std::size_t i = 0; i < 5; ++i) io.Casilla(99 + i, c.casilla[i]);
@@ -120,7 +129,8 @@ void Campos(IO& io, R& r) {
         auto& ac = c.gruposAc[g];
         io.Marca16(2516 + 2 * g, ac.activo);
         for (std::size_t p = 0; p < kPartidos; ++p) {
-            for (std::size_t k = 0; k < 3; ++k) io.Crudo(2616 + 42 * g + 3 * p + k, ac.signos[p][k]);
+            for (std::size_t k = 0; k < 3; ++k)
+                io.Crudo(2616 + 42 * g + 3 * p + k, ac.signos[p][k]);
         }
         io.U8(4718 + g, ac.numPartidos);
         io.U8(4768 + g, ac.fallosMin);
@@ -161,7 +171,8 @@ void Campos(IO& io, R& r) {
     io.U8(5141, c.minInterCons);
     io.U8(5142, r.origenPorcentajes);
     for (std::size_t s = 0; s < 3; ++s) {
-        for (std::size_t p = 0; p < kPartidos; ++p) io.U8(5143 + 14 * s + p, r.tablaPorcentajes[s][p]);
+        for (std::size_t p = 0; p < kPartidos; ++p)
+            io.U8(5143 + 14 * s + p, r.tablaPorcentajes[s][p]);
     }
     io.I32(5185, r.valorPorcentajes);
 }
@@ -204,20 +215,9 @@ void CopiarRegistros(const std::filesystem::path& origen, std::int32_t registros
     base::EscribirAtomico(destino, contenido);
 }
 
-// "PrecioApu15" de "Opciones", en precisión simple; admite la coma decimal.
-double PrecioColumna(const base::Ajustes& ajustes) {
-    std::string texto = ajustes.Leer(base::kAplicacion, "Opciones", "PrecioApu15", "0.75");
-    std::replace(texto.begin(), texto.end(), ',', '.');
-    try {
-        return static_cast<double>(std::stof(texto));
-    } catch (const std::exception&) {
-        return 0.75;
-    }
-}
-
 // Precio de la primera cuenta mayor que 0 entre al 13, al 12, al 11, al 10 y "Condicionada".
 void PonerPrecio(Combinacion& comb, const base::Ajustes& ajustes) {
-    const double precio = PrecioColumna(ajustes);
+    const double precio = static_cast<double>(PrecioColumna(ajustes));
     comb.panel.precio.reset();
     for (const auto& v : comb.panel.reducidas) {
         if (v.value_or(0) > 0) {
@@ -225,7 +225,8 @@ void PonerPrecio(Combinacion& comb, const base::Ajustes& ajustes) {
             return;
         }
     }
-    if (comb.panel.condicionada.value_or(0) > 0) comb.panel.precio = *comb.panel.condicionada * precio;
+    if (comb.panel.condicionada.value_or(0) > 0)
+        comb.panel.precio = *comb.panel.condicionada * precio;
 }
 
 // Cuenta los registros de un ".cnd" o ".red" comprobando su longitud.
@@ -246,8 +247,11 @@ std::pair<std::int32_t, std::int32_t> CargarAlmacen(const std::filesystem::path&
         activas += bytes[i] == static_cast<Byte>(kActiva) ? 1 : 0;
     }
     std::filesystem::remove(almacen);
-    base::EscribirAtomico(almacen, std::string_view(reinterpret_cast<const char*>(bytes.data()),
-                                                    bytes.size()));
+    // Un vector vacío no tiene datos: se escribe un texto vacío de verdad.
+    base::EscribirAtomico(
+        almacen, bytes.empty()
+                     ? std::string_view("")
+                     : std::string_view(reinterpret_cast<const char*>(bytes.data()), bytes.size()));
     return {static_cast<std::int32_t>(bytes.size() / RegistroColumna::kLongitud), activas};
 }
 
@@ -309,15 +313,16 @@ void GuardarEn(Combinacion& comb, const std::filesystem::path& carpetaTrabajo,
     RegistroCabecera r = CabeceraDe(comb);
     // El conjunto jugado del archivo que ya había sobrevive.
     r.jugada.clear();
-    if (conservarJugada && std::filesystem::exists(comb.ruta) && Longitud(comb.ruta) >= RegistroCabecera::kLongitud) {
+    if (conservarJugada && std::filesystem::exists(comb.ruta) &&
+        Longitud(comb.ruta) >= RegistroCabecera::kLongitud) {
         const auto anterior = LeerTodo(comb.ruta);
         r.jugada = base::TomarTexto(anterior, 16, 3);
     }
     comb.jugada = std::string(base::Recortar(r.jugada));
     PonerPrecio(comb, ajustes);
     const auto bytes = r.ABytes();
-    base::EscribirAtomico(comb.ruta,
-                          std::string_view(reinterpret_cast<const char*>(bytes.data()), bytes.size()));
+    base::EscribirAtomico(
+        comb.ruta, std::string_view(reinterpret_cast<const char*>(bytes.data()), bytes.size()));
 
     const auto cnd = RutaHermana(comb.ruta, ".cnd");
     if (comb.panel.condicionada) {
@@ -350,7 +355,8 @@ void CargarCabecera(Combinacion& comb, const RegistroCabecera& r) {
     comb.jugada = std::string(base::Recortar(r.jugada));
     for (int p = 1; p <= kPartidos; ++p) {
         for (int s = 0; s < 3; ++s) {
-            comb.base.Elegir(p, s, r.celdas[static_cast<std::size_t>(s)][static_cast<std::size_t>(p - 1)] == 1);
+            comb.base.Elegir(
+                p, s, r.celdas[static_cast<std::size_t>(s)][static_cast<std::size_t>(p - 1)] == 1);
         }
     }
     comb.pleno = r.pleno;

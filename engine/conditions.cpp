@@ -39,8 +39,8 @@ bool GrupoAciertos::EsDelGrupo(int partido0) const {
 }
 
 SetCondiciones::SetCondiciones() {
-    for (int t = 0; t < 27; ++t) maxTrio[static_cast<std::size_t>(t)] =
-        static_cast<std::uint8_t>(SinLimiteTrio(t));
+    for (int t = 0; t < 27; ++t)
+        maxTrio[static_cast<std::size_t>(t)] = static_cast<std::uint8_t>(SinLimiteTrio(t));
 }
 
 PosiblesGenerales CalcularPosiblesGenerales(const QuinielaBase& base) {

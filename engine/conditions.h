@@ -35,7 +35,7 @@ inline constexpr int kVariantes = 3;
 
 // Las parejas y los tríos en su orden fijo (el orden de los signos 1, X, 2).
 inline constexpr std::array<const char*, 9> kTextoParejas = {"11", "1X", "12", "X1", "XX",
-                                                        "X2", "21", "2X", "22"};
+                                                             "X2", "21", "2X", "22"};
 extern const std::array<std::array<char, 3>, 27> kTextoTrios;
 // Valor "sin límite" del máximo: 13 para "11", "XX", "22", 7 para las demás; 12 y 6 en tríos.
 int SinLimitePareja(int pareja);

@@ -10,53 +10,78 @@
 
 namespace quinteva::engine {
 
-// Índice de lo que no es signo en ColumnaFiltro::signo.
+// Índice de lo que no es signo (un blanco de una columna ganadora, por ejemplo).
 inline constexpr std::uint8_t kNoSigno = 3;
+// La columna se parte en dos mitades: partidos 1 a 7 y 8 a 14.
+inline constexpr int kMitad = 7;
+using SignosMitad = std::array<std::uint8_t, kMitad>;
 
-// Una columna dentro del filtro: el índice del signo de cada partido (0, 1, 2 por 1, X, 2;
-// kNoSigno si no es signo) y, por signo, la máscara de 14 bits de los partidos que lo llevan
-// (bit p para el partido p + 1). La generación los mantiene al avanzar; MascarasDe los calcula.
+// Por signo 1, X, 2, la máscara de 14 bits de los partidos que lo llevan (bit p, partido p + 1).
 struct Mascaras {
     std::array<std::uint16_t, 3> m{};
-    std::array<std::uint8_t, kPartidos> signo{kNoSigno, kNoSigno, kNoSigno, kNoSigno, kNoSigno,
-                                              kNoSigno, kNoSigno, kNoSigno, kNoSigno, kNoSigno,
-                                              kNoSigno, kNoSigno, kNoSigno, kNoSigno};
 };
 Mascaras MascarasDe(const Columna& columna);
 
-// Condicionar: el SetCondiciones preparado una vez para probar millones de columnas. Las pruebas
-// van en su orden fijo (Interrupciones, consecutivas, Generales, Seguidos, Parejas, Tríos, Sumas,
-// Grupos, Grupos de Aciertos, Comparaciones, Repeticiones); la primera que rechaza suma uno a su
-// contador. Los veredictos y contadores son los del algoritmo literal sobre el texto.
+// Lo que una mitad aporta a las cuentas del filtro. Las cuentas de parejas, tríos, Grupos y
+// Grupos de Aciertos van en carriles de un byte, ocho por palabra, en un bloque aparte de
+// Filtro::Palabras() palabras; las de la segunda mitad incluyen las parejas y tríos que cruzan
+// del partido 7 al 8.
+struct Aporte {
+    std::array<std::uint16_t, 3> m{};
+    int suma = 0;
+    // Comparaciones: por signo (y kNoSigno), las cuentas de las listas A a D, un byte cada una.
+    std::array<std::uint32_t, 4> listas{};
+};
+
+// Condicionar: el SetCondiciones preparado una vez para probar columnas sueltas (la generación
+// usa FiltroPorBloques). Las pruebas van en su orden fijo (Interrupciones, consecutivas,
+// Generales, Seguidos, Parejas, Tríos, Sumas, Grupos, Grupos de Aciertos, Comparaciones,
+// Repeticiones); la primera que rechaza suma uno a su contador. Veredictos y contadores son los
+// del algoritmo literal sobre el texto. Por dentro la columna son dos mitades (partidos 1 a 7 y
+// 8 a 14) cuyas cuentas se suman.
 class Filtro {
   public:
     explicit Filtro(const SetCondiciones& condiciones);
 
     // ColumnaAceptada: true si pasa; si no, suma 1 a un contador de rechazos.
-    bool Condicionar(const Mascaras& columna, Rechazos& rechazos) const;
-    bool Condicionar(const Columna& columna, Rechazos& rechazos) const {
-        return Condicionar(MascarasDe(columna), rechazos);
-    }
+    bool Condicionar(const Columna& columna, Rechazos& rechazos) const;
+
+    // Las familias que no se suman por mitades, cada una por separado (sin mirar su casilla):
+    // el filtro por bloques las usa para llenar sus cachés.
+    bool FallaInterConsecutivas(const Mascaras& columna) const;
+    bool FallaSeguidos(const Mascaras& columna) const;
+    bool FallaRepeticiones(const Mascaras& columna) const;
 
   private:
+    friend class FiltroPorBloques;
+
+    std::size_t Palabras() const { return palabras_; }
+    // Aporte de los partidos 1 a 7; carriles ha de tener Palabras() palabras.
+    void AportePrimera(const SignosMitad& signos, Aporte& aporte, std::uint64_t* carriles) const;
+    // Aporte de los partidos 8 a 14, tras una primera mitad acabada en penultimo, ultimo.
+    void AporteSegunda(std::uint8_t penultimo, std::uint8_t ultimo, const SignosMitad& signos,
+                       Aporte& aporte, std::uint64_t* carriles) const;
+    // La columna de esas dos mitades.
+    bool Condicionar(const Aporte& a, const std::uint64_t* carrilesA, const Aporte& b,
+                     const std::uint64_t* carrilesB, Rechazos& rechazos) const;
+
     struct Limites {
         int min = 0;
         int max = 0;
         bool Fuera(int v) const { return (v < min) | (v > max); }
     };
-    // Cuentas de hasta 8 por palabra de 64 bits, un byte cada una (todas caben en 0 a 15), con
-    // sus límites recortados a 0..15 en las mismas posiciones y el bit alto de cada carril usado.
-    template <std::size_t kPalabras>
-    struct Carriles {
-        std::array<std::uint64_t, kPalabras> min{};
-        std::array<std::uint64_t, kPalabras> max{};
-        std::array<std::uint64_t, kPalabras> usados{};
-        void Poner(std::size_t carril, int minimo, int maximo);
-    };
     struct ComparacionProbada {
         int izq, der;  // celda: signo * 4 + lista; -1 fuera de rango (cuenta 0)
         int operador;
     };
+    void PonerCarril(std::size_t carril, int minimo, int maximo);
+    void SumarCarril(std::uint64_t* carriles, std::size_t carril) const {
+        carriles[carril / 8] += std::uint64_t{1} << (carril % 8 * 8);
+    }
+    void Aportar(int desde, const SignosMitad& signos, Aporte& aporte,
+                 std::uint64_t* carriles) const;
+    void AportarPareja(std::uint8_t a, std::uint8_t b, std::uint64_t* carriles) const;
+    void AportarTrio(std::uint8_t a, std::uint8_t b, std::uint8_t c, std::uint64_t* carriles) const;
 
     bool inter_ = false, interCons_ = false;
     Limites limInter_, limInterCons_;
@@ -70,30 +95,25 @@ class Filtro {
     std::array<bool, 4> probarSeg_{};
     std::array<std::array<bool, 15>, 4> segPasa_{};
 
-    // Parejas en el byte a * 4 + b, tríos en a * 16 + b * 4 + c.
-    bool parejas_ = false, trios_ = false;
-    Carriles<2> limParejas_;
-    Carriles<8> limTrios_;
-
     bool sumas_ = false;
     Limites limSumas_;
-    // Suma de cada signo por mitades de la máscara: partidos 1 a 7 y 8 a 14.
-    std::array<std::array<std::array<int, 128>, 2>, 3> sumaMitad_{};
+    std::array<std::array<int, kPartidos>, 4> tablaSumas_{};
 
-    // Grupos probados (activos, hasta UltimoGrupo), un carril cada uno en su orden.
-    static constexpr std::size_t kPalabrasGrupo = 7;
+    // Carriles: parejas (9, en su orden), tríos (27), Grupos probados (4 por Grupo: 1, X, 2,
+    // Variantes) y Grupos de Aciertos probados (1 cada uno); cada familia empieza en palabra nueva.
+    bool parejas_ = false, trios_ = false;
+    std::size_t palabras_ = 0;
+    std::size_t palabraParejas_ = 0, palabraTrios_ = 0, palabraGrupos_ = 0, palabraAc_ = 0;
+    std::size_t palabrasGrupos_ = 0, palabrasAc_ = 0;
+    std::vector<std::uint64_t> min_, max_, usados_;
+
     std::vector<int> indiceGrupo_;
-    std::size_t palabrasGrupo_ = 0;
-    // Por partido y palabra, 1 en el carril de cada Grupo que tiene el partido.
-    std::array<std::array<std::uint64_t, kPalabrasGrupo>, kPartidos> miembro_{};
-    std::array<Carriles<kPalabrasGrupo>, 4> limGrupo_{};
+    // Por partido, los Grupos probados (su orden) que lo tienen.
+    std::array<std::vector<std::uint8_t>, kPartidos> gruposDelPartido_;
     int toleranciaGrupos_ = 0;
-
     std::vector<int> indiceGrupoAc_;
-    std::size_t palabrasGrupoAc_ = 0;
-    // Por partido, signo (y kNoSigno) y palabra, 1 en el carril de cada grupo que acierta.
-    std::array<std::array<std::array<std::uint64_t, kPalabrasGrupo>, 4>, kPartidos> acierto_{};
-    Carriles<kPalabrasGrupo> limGrupoAc_{};
+    // Por partido y signo, los Grupos de Aciertos probados que aciertan con él.
+    std::array<std::array<std::vector<std::uint8_t>, 3>, kPartidos> aciertaEn_;
     int toleranciaGruposAc_ = 0;
 
     bool comparaciones_ = false;

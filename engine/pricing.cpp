@@ -19,4 +19,14 @@ double Importe(std::int64_t columnas, const base::Ajustes& ajustes) {
     return static_cast<double>(PrecioColumna(ajustes)) * static_cast<double>(columnas);
 }
 
+void PrecioComb(Combinacion& comb, const base::Ajustes& ajustes) {
+    if (comb.totalGeneradas <= 0) {
+        comb.panel.precio.reset();
+        return;
+    }
+    comb.panel.condicionada = comb.activasGeneradas;
+    comb.panel.precio = Importe(comb.activasGeneradas, ajustes);
+    comb.panel.reducidas = {};
+}
+
 }  // namespace quinteva::engine

@@ -3,6 +3,7 @@
 #include <cstdint>
 
 #include "base/settings.h"
+#include "engine/combination.h"
 
 namespace quinteva::engine {
 
@@ -12,5 +13,10 @@ float PrecioColumna(const base::Ajustes& ajustes);
 
 // Lo que cuestan n columnas.
 double Importe(std::int64_t columnas, const base::Ajustes& ajustes);
+
+// PrecioComb: con TotalGeneradas mayor que 0, "Condicionada" muestra ActivasGeneradas, el precio
+// es esa cuenta por el de una columna y las cuatro filas reducidas quedan en blanco; con 0, el
+// precio queda en blanco.
+void PrecioComb(Combinacion& combinacion, const base::Ajustes& ajustes);
 
 }  // namespace quinteva::engine

@@ -34,6 +34,19 @@ compilar() {
   cmake --build --preset "$preset" -j "$(nproc)"
 }
 
+# Una pasada corta de cada objetivo de libFuzzer sobre su corpus: ninguna entrada lo tumba.
+fuzz() {
+  compilar fuzz
+  local corpus
+  for objetivo in fuzz_json_bag fuzz_cabecera; do
+    corpus="build/fuzz/corpus/$objetivo"
+    mkdir -p "$corpus"
+    [ -d "fuzz/corpus/$objetivo" ] && cp -n fuzz/corpus/$objetivo/* "$corpus"/ 2>/dev/null || true
+    "build/fuzz/fuzz/$objetivo" "$corpus" -max_total_time=20 -max_len=8192 -timeout=10 \
+      -print_final_stats=0 2>&1 | tail -n 2
+  done
+}
+
 instalar_lo_que_falta
 case "$orden" in
   ejecutar)
@@ -43,6 +56,7 @@ case "$orden" in
   pruebas)
     compilar dev
     QT_QPA_PLATFORM=offscreen ctest --preset dev -j "$(nproc)"
+    fuzz
     compilar asan
     ctest --preset asan -j "$(nproc)"
     ;;

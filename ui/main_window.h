@@ -1,34 +1,162 @@
 #pragma once
 
 #include <QMainWindow>
+#include <QTimer>
+#include <array>
 #include <filesystem>
+#include <optional>
 
 #include "base/dialog.h"
 #include "base/settings.h"
+#include "engine/combination.h"
+#include "engine/generation.h"
+#include "seasons/startup.h"
+#include "ui/background_work.h"
+#include "ui/reduction_seam.h"
+
+class QAction;
+class QLabel;
+class QMenu;
+class QPushButton;
+class QStackedWidget;
+class QToolBar;
 
 namespace quinteva::ui {
 
-// Lo que la ventana principal toma del programa: la carpeta de trabajo, los ajustes y el Dialogo
-// por el que habla con el usuario (el de Qt en el programa, uno con guion en las pruebas).
+class PaginaBase;
+class PaginaCondiciones;
+class PaginaGenerar;
+class PaginaReducir;
+class PaginaBoletos;
+class PanelEstadoQt;
+
+// Lo que la ventana principal toma del programa: la carpeta de trabajo, la del programa (la que
+// trae la temporada de demostración), los ajustes, el Dialogo por el que habla con el usuario y la
+// reducción (sin ella la página "Reducir" no reduce).
 struct Servicios {
     std::filesystem::path carpetaTrabajo;
+    std::filesystem::path carpetaPrograma;
     base::Ajustes& ajustes;
     base::Dialogo& dialogo;
+    Reductor* reductor = nullptr;
 };
 
-// La ventana principal, "Quinteva", con su barra de menús.
+// Las páginas, en el orden del trabajo.
+enum Pagina : int { kQuinBase = 0, kCondicion = 1, kGenerar = 2, kReducir = 3, kBoletos = 4 };
+
+// La ventana principal: dueña de la Combinación abierta; sus cinco botones llevan por las páginas
+// y sus menús y su barra abren las demás ventanas.
 class VentanaPrincipal : public QMainWindow {
     Q_OBJECT
 
   public:
     explicit VentanaPrincipal(Servicios servicios, QWidget* madre = nullptr);
+    ~VentanaPrincipal() override;
 
+    // Los pasos del arranque tras la carpeta de trabajo: temporada (la de demostración en el
+    // primer arranque), archivos descargados, equipos, MaxJornada, la lista de Jornadas, las
+    // rejillas, los recientes y, al final, el ".uxd" dado como argumento.
+    void Arrancar(const std::optional<std::filesystem::path>& argumento = std::nullopt);
+    // Tras mostrarse: la ventana de bienvenida si "VerBien" es "SI".
+    void Bienvenida();
+
+    const engine::Combinacion& Combinacion() const { return comb_; }
+    const seasons::TemporadaPreparada& Temporada() const { return temporada_; }
+    TrabajoEnSegundoPlano& Trabajo() { return trabajo_; }
+    void IrAPagina(int pagina);
+    int PaginaActual() const;
+    bool PaginaHabilitada(int pagina) const {
+        return habilitada_[static_cast<std::size_t>(pagina)];
+    }
+
+    // Los mandatos, como los llaman los menús y la barra.
+    void ElegirJornada(int jornada);
+    void Nueva();
+    void AbrirArchivo();
+    void AbrirReciente(int n);
+    bool Guardar();
+    bool GuardarComo();
+    void CopiarCondiciones();
+    void Opciones();
     void AcercaDe();
 
-  private:
-    void CrearMenus();
+  protected:
+    void closeEvent(QCloseEvent* evento) override;
 
-    Servicios servicios_;
+  private:
+    void CrearPaginas();
+    void CrearMenus();
+    void CrearBarra();
+    QAction* Accion(QMenu* menu, const QString& texto, const QString& nombre,
+                    bool habilitada = true);
+
+    // Ante lo que borraría el trabajo sin guardar: "Desea guardar la Quiniela actual?". false si
+    // el usuario cancela (o no llega a guardar).
+    bool PreguntarGuardar();
+    void Abrir(const std::filesystem::path& ruta, int reciente);
+    void LimpiarCombinacion(bool vaciarRuta);
+    void PonerPartidos(int jornada);
+    void Fallo(const std::exception& e);
+
+    void SignoPulsado(int partido, int signo);
+    void GolTecleado(int lado, const QString& tecla);
+    void GolVisitado(int lado);
+    void PartidoElegido(int fila);
+    void CambioCondiciones();
+    void PorcentajesAutomaticos();
+    void AnularResultados();
+    void QuinComp(const engine::QuinielaBase& anterior);
+
+    void Generar();
+    void FinGeneracion();
+    void Reducir();
+    void FinReduccion();
+    void Detener();
+    void RefrescarProgreso();
+    void Ocupado(bool ocupado);
+    void AvisoBoletos();
+    void Rechazadas();
+    void TablaReducciones();
+    void InfoReduccion();
+    void SeleccionPulsada(int fila);
+
+    void Habilitar(int pagina, bool habilitada);
+    void Refrescar();
+    void RefrescarPaginaGenerar();
+    void RefrescarPaginaReducir();
+    void RefrescarRecientes();
+
+    Servicios s_;
+    engine::Combinacion comb_;
+    seasons::TemporadaPreparada temporada_;
+    std::array<int, 15> divisiones_{};
+    std::array<bool, 5> habilitada_{true, false, false, false, false};
+    std::array<bool, engine::kPartidos> seleccionReduccion_{};
+
+    std::array<QPushButton*, 5> botonesPagina_{};
+    QStackedWidget* paginas_ = nullptr;
+    PanelEstadoQt* panel_ = nullptr;
+    PaginaBase* base_ = nullptr;
+    PaginaCondiciones* condiciones_ = nullptr;
+    PaginaGenerar* generar_ = nullptr;
+    PaginaReducir* reducir_ = nullptr;
+    PaginaBoletos* boletos_ = nullptr;
+    QLabel* temporadaEtiqueta_ = nullptr;
+    QToolBar* barra_ = nullptr;
+
+    QAction* guardar_ = nullptr;
+    QAction* guardarComo_ = nullptr;
+    QAction* copiar_ = nullptr;
+    std::array<QAction*, 3> recientes_{};
+    QAction* ultimaPena_ = nullptr;
+
+    TrabajoEnSegundoPlano trabajo_;
+    QTimer refresco_;
+    QTimer temporizadorVersion_;
+    bool reduciendo_ = false;
+    bool verContador_ = true;
+    bool verBarra_ = true;
+    engine::ResultadoGeneracion resultado_;
 };
 
 }  // namespace quinteva::ui

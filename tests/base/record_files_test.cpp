@@ -6,6 +6,7 @@
 #include <iterator>
 #include <string>
 
+#include "base/atomic_write.h"
 #include "base/error.h"
 #include "tests/support/temp_folder.h"
 
@@ -113,11 +114,6 @@ TEST(AnexadorRegistros, ElDiscoLlenoEsUnError) {
     }
 }
 
-}  // namespace
-}  // namespace quinteva::base
-
-namespace quinteva::base {
-namespace {
 
 TEST(LectorRegistros, LeeTodoEnOrdenYNadaMas) {
     pruebas::CarpetaTemporal carpeta;
@@ -145,6 +141,26 @@ TEST(LectorRegistros, NoCreaElArchivo) {
     pruebas::CarpetaTemporal carpeta;
     EXPECT_THROW(LectorRegistros(carpeta / "no.tmp", 17), Error);
     EXPECT_FALSE(std::filesystem::exists(carpeta / "no.tmp"));
+}
+
+TEST(EscribirAtomico, ReemplazaEnteroYUnVacioDejaUnArchivoVacio) {
+    pruebas::CarpetaTemporal carpeta;
+    const auto ruta = carpeta / "a.uxd";
+    EscribirAtomico(ruta, "antes");
+    EscribirAtomico(ruta, "despues");
+    EXPECT_EQ(Contenido(ruta), "despues");
+    EscribirAtomico(ruta, std::string_view());
+    EXPECT_EQ(std::filesystem::file_size(ruta), 0U);
+    EXPECT_FALSE(std::filesystem::exists(RutaTemporalJunto(ruta)));
+}
+
+TEST(EscribirAtomico, SiFallaElArchivoAnteriorQueda) {
+    pruebas::CarpetaTemporal carpeta;
+    const auto ruta = carpeta / "a.uxd";
+    EscribirAtomico(ruta, "del usuario");
+    std::filesystem::create_directory(RutaTemporalJunto(ruta));  // el temporal no se puede abrir
+    EXPECT_THROW(EscribirAtomico(ruta, "nuevo"), Error);
+    EXPECT_EQ(Contenido(ruta), "del usuario");
 }
 
 }  // namespace

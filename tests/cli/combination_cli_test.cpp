@@ -37,13 +37,17 @@ TEST(CliCombinacion, NuevaInfoGenerarAnalizar) {
     pruebas::CarpetaTemporal carpeta;
     const auto uxd = carpeta / "J1.uxd";
     const auto trabajo = carpeta / "trabajo";
-    auto r = Ejecutar("nueva " + Q(uxd) + " --base \"1x2 1 X 12 1X2 1 1 2 X 1X x2 1 1 1\" --pleno 1-m --jornada 12 --carpeta " + Q(trabajo));
+    auto r = Ejecutar(
+        "nueva " + Q(uxd) +
+        " --base \"1x2 1 X 12 1X2 1 1 2 X 1X x2 1 1 1\" --pleno 1-m --jornada 12 --carpeta " +
+        Q(trabajo));
     ASSERT_EQ(r.codigo, 0) << r.texto;
     EXPECT_EQ(std::filesystem::file_size(uxd), 5189U);
 
     r = Ejecutar("info " + Q(uxd) + " --json");
     ASSERT_EQ(r.codigo, 0) << r.texto;
-    EXPECT_NE(r.texto.find("\"Base\": \"1X2 1 X 12 1X2 1 1 2 X 1X X2 1 1 1\""), std::string::npos) << r.texto;
+    EXPECT_NE(r.texto.find("\"Base\": \"1X2 1 X 12 1X2 1 1 2 X 1X X2 1 1 1\""), std::string::npos)
+        << r.texto;
     EXPECT_NE(r.texto.find("\"Jornada\": 12"), std::string::npos);
     EXPECT_NE(r.texto.find("\"PlenoBase\": \"1M\""), std::string::npos);
     EXPECT_NE(r.texto.find("\"NumCondiciones\": 0"), std::string::npos);
@@ -64,15 +68,18 @@ TEST(CliCombinacion, EntradasMalasNoEscribenNada) {
     pruebas::CarpetaTemporal carpeta;
     const auto uxd = carpeta / "Mala.uxd";
     const auto trabajo = carpeta / "trabajo";
-    for (const std::string base : {"1X2 1 X", "1X2 1 X 12 1X2 1 1 2 X 1X X2 1 1 3",
-                                   "1X2 1 X 12 1X2 1 1 2 X 1X X2 1 1 11",
-                                   "1X2 1 X 12 1X2 1 1 2 X 1X X2 1 1 ,"}) {
-        const auto r = Ejecutar("nueva " + Q(uxd) + " --base \"" + base + "\" --pleno 1-1 --carpeta " + Q(trabajo));
+    for (const std::string base :
+         {"1X2 1 X", "1X2 1 X 12 1X2 1 1 2 X 1X X2 1 1 3", "1X2 1 X 12 1X2 1 1 2 X 1X X2 1 1 11",
+          "1X2 1 X 12 1X2 1 1 2 X 1X X2 1 1 ,"}) {
+        const auto r = Ejecutar("nueva " + Q(uxd) + " --base \"" + base +
+                                "\" --pleno 1-1 --carpeta " + Q(trabajo));
         EXPECT_EQ(r.codigo, 2) << base;
         EXPECT_FALSE(r.texto.empty());
         EXPECT_FALSE(std::filesystem::exists(uxd));
     }
-    const auto r = Ejecutar("nueva " + Q(uxd) + " --base \"1 1 1 1 1 1 1 1 1 1 1 1 1 1\" --pleno 1-5 --carpeta " + Q(trabajo));
+    const auto r =
+        Ejecutar("nueva " + Q(uxd) +
+                 " --base \"1 1 1 1 1 1 1 1 1 1 1 1 1 1\" --pleno 1-5 --carpeta " + Q(trabajo));
     EXPECT_EQ(r.codigo, 2);
     EXPECT_FALSE(std::filesystem::exists(uxd));
 
@@ -98,12 +105,15 @@ TEST(CliCombinacion, UxdEscritoAManoSeGeneraExactamente) {
         cab.nombre = "Mano";
         engine::QuinielaBase base = pruebas::BaseAlAzar(s);
         for (int p = 1; p <= 14; ++p) {
-            for (int k = 0; k < 3; ++k) cab.celdas[static_cast<std::size_t>(k)][static_cast<std::size_t>(p - 1)] = base.Elegido(p, k) ? 1 : 0;
+            for (int k = 0; k < 3; ++k)
+                cab.celdas[static_cast<std::size_t>(k)][static_cast<std::size_t>(p - 1)] =
+                    base.Elegido(p, k) ? 1 : 0;
         }
         cab.pleno = {'1', 'M'};
         cab.condiciones = pruebas::CondicionesAlAzar(s, base);
         const auto bytes = cab.ABytes();
-        std::ofstream(uxd, std::ios::binary).write(reinterpret_cast<const char*>(bytes.data()), 5189);
+        std::ofstream(uxd, std::ios::binary)
+            .write(reinterpret_cast<const char*>(bytes.data()), 5189);
 
         // Lo esperado, con el motor en una carpeta aparte.
         pruebas::AjustesEnMemoria ajustes;
@@ -118,16 +128,21 @@ TEST(CliCombinacion, UxdEscritoAManoSeGeneraExactamente) {
         const auto r = Ejecutar("generar " + Q(uxd) + " --carpeta " + Q(carpeta / "trabajo"));
         ASSERT_EQ(r.codigo, 0) << r.texto;
         std::string esperado = "Apuestas posibles: " + base::Formato(c.apuestasPosibles, "#,##0") +
-                               "\nCondicionada: " + base::Formato(c.activasGeneradas, "#,##0") + "\n";
+                               "\nCondicionada: " + base::Formato(c.activasGeneradas, "#,##0") +
+                               "\n";
         for (const auto& f : engine::FilasRechazadas(c.rechazos, c.condiciones.toleranciaGrupos,
-                                                    c.condiciones.toleranciaGruposAc)) {
+                                                     c.condiciones.toleranciaGruposAc)) {
             esperado += f.primera + "\t" + f.segunda + "\n";
         }
         EXPECT_EQ(r.texto, esperado);
-        EXPECT_EQ(std::filesystem::file_size(carpeta / "Mano.cnd"), 17U * static_cast<unsigned>(c.totalGeneradas));
-        const auto json = Ejecutar("generar " + Q(uxd) + " --carpeta " + Q(carpeta / "trabajo") + " --json");
-        EXPECT_NE(json.texto.find("\"TotalGeneradas\": " + std::to_string(c.totalGeneradas)), std::string::npos);
-        EXPECT_NE(json.texto.find("\"RechazosTolGrupos\": " + std::to_string(c.rechazos.tolGrupos)), std::string::npos);
+        EXPECT_EQ(std::filesystem::file_size(carpeta / "Mano.cnd"),
+                  17U * static_cast<unsigned>(c.totalGeneradas));
+        const auto json =
+            Ejecutar("generar " + Q(uxd) + " --carpeta " + Q(carpeta / "trabajo") + " --json");
+        EXPECT_NE(json.texto.find("\"TotalGeneradas\": " + std::to_string(c.totalGeneradas)),
+                  std::string::npos);
+        EXPECT_NE(json.texto.find("\"RechazosTolGrupos\": " + std::to_string(c.rechazos.tolGrupos)),
+                  std::string::npos);
     }
 }
 

@@ -66,8 +66,7 @@ TEST(Analisis, FilasEnElOrdenDeLasPruebas) {
 }
 
 TEST(Rechazadas, SinRechazosSoloElTotal) {
-    EXPECT_EQ(FilasRechazadas({}, 0, 0),
-              (std::vector<FilaInforme>{{"Total rechazadas", "0"}}));
+    EXPECT_EQ(FilasRechazadas({}, 0, 0), (std::vector<FilaInforme>{{"Total rechazadas", "0"}}));
 }
 
 TEST(Rechazadas, OrdenFijoYTotal) {
@@ -77,12 +76,20 @@ TEST(Rechazadas, OrdenFijoYTotal) {
     r.tolGrupos = 11;
     r.grupoAciertos[49] = 12;
     r.tolGruposAciertos = 13;
-    const std::vector<FilaInforme> esperadas = {
-        {"Condiciones Generales", "1.000"}, {"Seguidos", "2"}, {"Interrupciones", "3"},
-        {"Interrupciones consecutivas", "4"}, {"Parejas", "5"}, {"Tríos", "6"},
-        {"Grupo nº 3", "10"}, {"Más de 2 Grupos fallados", "11"}, {"Aciertos nº 50", "12"},
-        {"Más de 1 Grupos de Ac. fallados", "13"}, {"Sumas", "7"}, {"Comparaciones", "8"},
-        {"Repeticiones", "9"}, {"Total rechazadas", "1.090"}};
+    const std::vector<FilaInforme> esperadas = {{"Condiciones Generales", "1.000"},
+                                                {"Seguidos", "2"},
+                                                {"Interrupciones", "3"},
+                                                {"Interrupciones consecutivas", "4"},
+                                                {"Parejas", "5"},
+                                                {"Tríos", "6"},
+                                                {"Grupo nº 3", "10"},
+                                                {"Más de 2 Grupos fallados", "11"},
+                                                {"Aciertos nº 50", "12"},
+                                                {"Más de 1 Grupos de Ac. fallados", "13"},
+                                                {"Sumas", "7"},
+                                                {"Comparaciones", "8"},
+                                                {"Repeticiones", "9"},
+                                                {"Total rechazadas", "1.090"}};
     EXPECT_EQ(FilasRechazadas(r, 2, 1), esperadas);
 }
 

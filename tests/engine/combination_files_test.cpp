@@ -22,7 +22,8 @@ std::int16_t I16(const std::array<Byte, 5189>& b, std::size_t p) {
 }
 std::int32_t I32(const std::array<Byte, 5189>& b, std::size_t p) {
     return static_cast<std::int32_t>(static_cast<std::uint32_t>(b[p]) | (b[p + 1] << 8) |
-                                     (b[p + 2] << 16) | (static_cast<std::uint32_t>(b[p + 3]) << 24));
+                                     (b[p + 2] << 16) |
+                                     (static_cast<std::uint32_t>(b[p + 3]) << 24));
 }
 std::string Txt(const std::array<Byte, 5189>& b, std::size_t p, std::size_t n) {
     return std::string(reinterpret_cast<const char*>(b.data() + p), n);
@@ -47,7 +48,8 @@ RegistroCabecera CabeceraDistinta() {
     r.triples = 6;
     r.origenPorcentajes = 7;
     for (std::size_t s = 0; s < 3; ++s) {
-        for (std::size_t p = 0; p < 14; ++p) r.tablaPorcentajes[s][p] = static_cast<std::uint8_t>(s * 14 + p + 1);
+        for (std::size_t p = 0; p < 14; ++p)
+            r.tablaPorcentajes[s][p] = static_cast<std::uint8_t>(s * 14 + p + 1);
     }
     r.valorPorcentajes = -123456;
     auto& c = r.condiciones;
@@ -80,7 +82,8 @@ RegistroCabecera CabeceraDistinta() {
         }
         auto& ac = c.gruposAc[g];
         ac.activo = g % 5 == 1;
-        for (std::size_t p = 0; p < 14; ++p) ac.signos[p] = {(p % 2) ? '1' : ' ', 'X', (g % 2) ? '2' : ' '};
+        for (std::size_t p = 0; p < 14; ++p)
+            ac.signos[p] = {(p % 2) ? '1' : ' ', 'X', (g % 2) ? '2' : ' '};
         ac.numPartidos = static_cast<std::uint8_t>(g);
         ac.fallosMin = static_cast<std::uint8_t>(g + 1);
         ac.aciertosMin = static_cast<std::uint8_t>(g + 2);
@@ -89,7 +92,8 @@ RegistroCabecera CabeceraDistinta() {
     }
     c.ultimoGrupo = 48, c.toleranciaGrupos = 3, c.ultimoGrupoAc = 46, c.toleranciaGruposAc = 2;
     for (std::size_t s = 0; s < 3; ++s) {
-        for (std::size_t p = 0; p < 14; ++p) c.sumasTabla[s][p] = static_cast<std::uint8_t>(200 + s * 14 + p);
+        for (std::size_t p = 0; p < 14; ++p)
+            c.sumasTabla[s][p] = static_cast<std::uint8_t>(200 + s * 14 + p);
     }
     c.sumaMaxima = 1234, c.sumaMinima = -5;
     c.numListas = {3, 4, 5, 6};
@@ -97,9 +101,10 @@ RegistroCabecera CabeceraDistinta() {
         for (std::size_t i = 1; i < 15; ++i) c.listas[l][i] = static_cast<std::uint8_t>(l * 20 + i);
     }
     for (std::size_t f = 0; f < 8; ++f) {
-        c.comparaciones[f] = {static_cast<std::uint8_t>(f % 2), static_cast<std::uint8_t>(1 + f % 3),
-                              static_cast<std::uint8_t>(1 + f % 4), static_cast<std::uint8_t>(1 + f % 5),
-                              static_cast<std::uint8_t>(3 - f % 3), static_cast<std::uint8_t>(4 - f % 4)};
+        c.comparaciones[f] = {
+            static_cast<std::uint8_t>(f % 2),     static_cast<std::uint8_t>(1 + f % 3),
+            static_cast<std::uint8_t>(1 + f % 4), static_cast<std::uint8_t>(1 + f % 5),
+            static_cast<std::uint8_t>(3 - f % 3), static_cast<std::uint8_t>(4 - f % 4)};
     }
     c.longRep = {1, 2, 3, 4};
     c.limiteRep = {5, 6, 7, 8};
@@ -120,7 +125,8 @@ TEST(RegistroCabecera, CadaCampoEnSuSitio) {
     EXPECT_EQ(I32(b, 31), 100003);
     EXPECT_EQ(I32(b, 35), 100004);
     for (std::size_t c = 0; c < 3; ++c) {
-        for (std::size_t f = 0; f < 15; ++f) EXPECT_EQ(U8(b, 39 + c * 15 + f), f < 14 ? (c + f) % 2 : 0);
+        for (std::size_t f = 0; f < 15; ++f)
+            EXPECT_EQ(U8(b, 39 + c * 15 + f), f < 14 ? (c + f) % 2 : 0);
     }
     for (std::size_t i = 84; i < 99; ++i) EXPECT_EQ(U8(b, i), 0);
     const std::array<int, 5> casillas = {1, 0, 1, 1, 0};
@@ -144,7 +150,8 @@ TEST(RegistroCabecera, CadaCampoEnSuSitio) {
     }
     for (std::size_t g = 0; g < 50; ++g) {
         EXPECT_EQ(I16(b, 214 + 2 * g), g % 3 == 0 ? -1 : 0);
-        for (std::size_t p = 0; p < 14; ++p) EXPECT_EQ(I16(b, 314 + 28 * g + 2 * p), (g + p) % 4 == 0 ? -1 : 0);
+        for (std::size_t p = 0; p < 14; ++p)
+            EXPECT_EQ(I16(b, 314 + 28 * g + 2 * p), (g + p) % 4 == 0 ? -1 : 0);
         // V, 1, X, 2 en el archivo; 1, X, 2, V en memoria.
         const std::array<std::size_t, 4> clase = {3, 0, 1, 2};
         for (std::size_t j = 0; j < 4; ++j) {
@@ -212,8 +219,8 @@ TEST(RegistroCabecera, UnByteNoAdmiteMasDe255) {
 
 QuinielaBase BaseDePrueba() {
     QuinielaBase base;
-    const std::string signos[14] = {"1X2", "1", "X", "2", "1X", "X2", "12", "1X2",
-                                    "1", "1", "X", "1X2", "2", "1"};
+    const std::string signos[14] = {"1X2", "1", "X", "2", "1X",  "X2", "12",
+                                    "1X2", "1", "1", "X", "1X2", "2",  "1"};
     for (int p = 1; p <= 14; ++p) {
         for (char s : signos[p - 1]) base.Elegir(p, IndiceSigno(s), true);
     }
@@ -290,7 +297,8 @@ TEST(Guardar, ConservaElConjuntoJugado) {
     Guardar(c, carpeta.Ruta(), ajustes);
     auto bytes = Bytes(c.ruta);
     bytes[16] = 'c', bytes[17] = 'n', bytes[18] = 'd';
-    std::ofstream(c.ruta, std::ios::binary).write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+    std::ofstream(c.ruta, std::ios::binary)
+        .write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
     Guardar(c, carpeta.Ruta(), ajustes);
     EXPECT_EQ(Bytes(c.ruta)[16], 'c');
     EXPECT_EQ(c.jugada, "cnd");
@@ -320,7 +328,8 @@ TEST(Abrir, ActivasMenosQueTotales) {
     Guardar(c, carpeta.Ruta(), ajustes);
     auto cnd = Bytes(carpeta / "Elim.cnd");
     cnd[16] = '1';
-    std::ofstream(carpeta / "Elim.cnd", std::ios::binary).write(cnd.data(), static_cast<std::streamsize>(cnd.size()));
+    std::ofstream(carpeta / "Elim.cnd", std::ios::binary)
+        .write(cnd.data(), static_cast<std::streamsize>(cnd.size()));
     Combinacion abierta;
     AbrirCombinacion(abierta, c.ruta, carpeta.Ruta(), ajustes);
     EXPECT_EQ(abierta.totalGeneradas, c.totalGeneradas);
@@ -328,7 +337,8 @@ TEST(Abrir, ActivasMenosQueTotales) {
     EXPECT_EQ(abierta.panel.condicionada, c.totalGeneradas - 1);
 }
 
-void EsperarErrorSinCambios(const std::filesystem::path& uxd, const std::filesystem::path& trabajo) {
+void EsperarErrorSinCambios(const std::filesystem::path& uxd,
+                            const std::filesystem::path& trabajo) {
     pruebas::AjustesEnMemoria ajustes;
     Combinacion c;
     c.panel.nombre = "Intacta";

@@ -41,7 +41,8 @@ TEST(Filtro, DiferencialContraElAlgoritmoLiteral) {
             if (s.Moneda(0.8)) {
                 col = pruebas::ColumnaDeBase(s, base);
             } else {
-                for (int p = 0; p < kPartidos; ++p) col += kSignos[static_cast<std::size_t>(s.Entre(0, 2))];
+                for (int p = 0; p < kPartidos; ++p)
+                    col += kSignos[static_cast<std::size_t>(s.Entre(0, 2))];
             }
             const bool a = filtro.Condicionar(ColumnaDeTexto(col), rapido);
             const bool b = CondicionarLiteral(col, c, literal);
@@ -83,13 +84,15 @@ TEST(Filtro, DiferencialFamiliaPorFamilia) {
         if (sola != 11) DesactivarGrupos(c);
         if (sola != 12) DesactivarGruposAc(c);
         if (c.casilla[kCasillaRepeticiones]) {
-            for (std::size_t k = 0; k < 4; ++k) c.limiteRep[k] = static_cast<std::uint8_t>(s.Entre(0, 1));
+            for (std::size_t k = 0; k < 4; ++k)
+                c.limiteRep[k] = static_cast<std::uint8_t>(s.Entre(0, 1));
         }
         const Filtro filtro(c);
         Rechazos rapido, literal;
         for (int i = 0; i < 2000; ++i) {
             std::string col;
-            for (int p = 0; p < kPartidos; ++p) col += kSignos[static_cast<std::size_t>(s.Entre(0, 2))];
+            for (int p = 0; p < kPartidos; ++p)
+                col += kSignos[static_cast<std::size_t>(s.Entre(0, 2))];
             ASSERT_EQ(filtro.Condicionar(ColumnaDeTexto(col), rapido),
                       CondicionarLiteral(col, c, literal))
                 << "conjunto " << conjunto << " columna " << col;
@@ -197,7 +200,7 @@ TEST(Filtro, SeguidosDeDosEmpiezaEnCero) {
     EXPECT_FALSE(Pasa(c, "1X1X1X1X1X1X1X"));  // ningún "2": un mínimo de 1 lo rechaza
     c.minSeg[kDos] = 0;
     c.minSeg[kUno] = 1;
-    EXPECT_TRUE(Pasa(c, "X2X2X2X2X2X2X2"));   // ningún "1": un mínimo de 1 pasa
+    EXPECT_TRUE(Pasa(c, "X2X2X2X2X2X2X2"));  // ningún "1": un mínimo de 1 pasa
     c.minSeg[kUno] = 2;
     EXPECT_FALSE(Pasa(c, "X2X2X2X2X2X2X2"));
 }

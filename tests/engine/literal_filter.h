@@ -14,7 +14,8 @@ namespace quinteva::pruebas {
 using engine::Rechazos;
 using engine::SetCondiciones;
 
-// InStr(inicio, texto, buscado) con posiciones desde 1; 0 si no está. El texto vacío está en inicio.
+// InStr(inicio, texto, buscado) con posiciones desde 1; 0 si no está. El texto vacío está en
+// inicio.
 inline int InStr(int inicio, const std::string& texto, const std::string& buscado) {
     if (inicio < 1) inicio = 1;
     if (inicio > static_cast<int>(texto.size()) + 1) return 0;
@@ -278,7 +279,8 @@ inline bool CondicionarLiteral(const std::string& col, const SetCondiciones& c, 
         for (int s = 0; s < 3; ++s) {
             const auto u = static_cast<std::size_t>(s);
             if (c.limiteRep[u] == 0) continue;
-            if (RepeticionesLiteral(col, signos[s], c.longRep[u], c.limiteRep[u]) > c.limiteRep[u]) {
+            if (RepeticionesLiteral(col, signos[s], c.longRep[u], c.limiteRep[u]) >
+                c.limiteRep[u]) {
                 return rechazar(9);
             }
         }

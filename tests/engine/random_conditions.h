@@ -75,7 +75,8 @@ inline engine::SetCondiciones CondicionesAlAzar(Sorteo& s, const engine::Quiniel
     elegir(c.posMinEquis, c.posMaxEquis, c.minEquis, c.maxEquis);
     elegir(c.posMinDoses, c.posMaxDoses, c.minDoses, c.maxDoses);
     elegir(c.posMinVariantes, c.posMaxVariantes, c.minVariantes, c.maxVariantes);
-    for (std::size_t k = 0; k < 4; ++k) elegir(c.posMinSeg[k], c.posMaxSeg[k], c.minSeg[k], c.maxSeg[k]);
+    for (std::size_t k = 0; k < 4; ++k)
+        elegir(c.posMinSeg[k], c.posMaxSeg[k], c.minSeg[k], c.maxSeg[k]);
 
     for (int i = 0; i < 9; ++i) {
         if (s.Moneda(0.6)) continue;

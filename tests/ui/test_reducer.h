@@ -1,0 +1,64 @@
+#pragma once
+
+#include <fstream>
+#include <vector>
+
+#include "base/formats.h"
+#include "base/record_files.h"
+#include "engine/columns.h"
+#include "ui/reduction_seam.h"
+
+namespace quinteva::pruebas {
+
+// Reducción de prueba para la ventana: la cobertura voraz literal (la primera columna pendiente
+// se queda y se llevan las que están a la distancia del nivel), sobre "Cmb.tmp" hacia "Red.tmp".
+// La de verdad la pone la reducción; aquí basta con una que cumpla la garantía.
+class ReductorDePrueba : public ui::Reductor {
+  public:
+    void Reducir(engine::Combinacion& comb, const ui::PeticionReduccion& peticion,
+                 const std::filesystem::path& carpeta, base::Progreso& progreso,
+                 const base::Ajustes&) override {
+        const int distancia = peticion.nivel + 1;
+        const base::ArchivoDe<engine::RegistroColumna> cmb(carpeta / engine::kCmbTmp);
+        std::vector<engine::Columna> pendientes;
+        for (std::int32_t n = 1; n <= cmb.Cuenta(); ++n) pendientes.push_back(cmb.Leer(n).columna);
+        std::vector<engine::Columna> guardadas;
+        while (!pendientes.empty() && !progreso.Detenido()) {
+            const engine::Columna elegida = pendientes.front();
+            guardadas.push_back(elegida);
+            std::vector<engine::Columna> quedan;
+            for (const auto& c : pendientes) {
+                int distintos = 0;
+                for (std::size_t i = 0; i < c.size(); ++i) distintos += c[i] != elegida[i] ? 1 : 0;
+                if (distintos > distancia) quedan.push_back(c);
+            }
+            pendientes = std::move(quedan);
+            progreso.Avance(cmb.Cuenta() - static_cast<std::int64_t>(pendientes.size()),
+                            cmb.Cuenta());
+        }
+        std::filesystem::remove(carpeta / engine::kRedTmp);
+        base::ArchivoDe<engine::RegistroColumna> red(carpeta / engine::kRedTmp);
+        for (const auto& c : guardadas) red.Anadir({c, comb.pleno, engine::kActiva});
+        red.Cerrar();
+        comb.totalReducidas = comb.activasReducidas = static_cast<std::int32_t>(guardadas.size());
+        comb.panel.reducidas = {};
+        comb.panel.reducidas[static_cast<std::size_t>(peticion.nivel)] = comb.activasReducidas;
+        comb.nivelReducida = static_cast<std::uint8_t>(peticion.nivel);
+        ++reducciones;
+    }
+
+    std::vector<ui::FilaTablaReducciones> TablaReducciones() const override {
+        return {{"3 Dobles", {{{"2", true}, {"-", false}, {"-", false}}}, 0, 3},
+                {"1 Triple y 10 Dobles", {{{"384", false}, {"96", false}, {"20", true}}}, 1, 10},
+                {"11 Triples", {{{"19683", false}, {"729", true}, {"324", false}}}, 11, 0}};
+    }
+
+    ui::InformeReduccion Informe(std::int32_t reducidas, double total) const override {
+        const double p = total > 0 ? 100.0 * reducidas / total : 0.0;
+        return {base::Formato(100.0 - p, "0.#0") + "%", base::Formato(p, "0.#0") + "%"};
+    }
+
+    int reducciones = 0;
+};
+
+}  // namespace quinteva::pruebas

@@ -1,0 +1,103 @@
+#pragma once
+
+#include <QComboBox>
+#include <QHeaderView>
+#include <QPushButton>
+#include <QTableWidget>
+#include <QtTest>
+#include <filesystem>
+#include <memory>
+
+#include "tests/support/memory_settings.h"
+#include "tests/support/scripted_dialog.h"
+#include "tests/support/temp_folder.h"
+#include "tests/ui/test_reducer.h"
+#include "ui/base_page.h"
+#include "ui/main_window.h"
+
+namespace quinteva::pruebas {
+
+// Un programa recién instalado: la carpeta del programa con sus datos (copia de data/), una
+// carpeta de trabajo vacía, otra para los documentos del usuario, ajustes en memoria y un
+// Dialogo con guion.
+struct Instalacion {
+    CarpetaTemporal programa, trabajo, documentos;
+    AjustesEnMemoria ajustes;
+    DialogoGuionado dialogo;
+    ReductorDePrueba reductor;
+
+    Instalacion() {
+        std::filesystem::copy(QUINTEVA_DATOS, programa.Ruta(),
+                              std::filesystem::copy_options::recursive);
+        // Sin ventana de bienvenida ni aviso de Boletos salvo en sus pruebas.
+        ajustes.Guardar(base::kAplicacion, "Inic05", "VerBien", "NO");
+        ajustes.Guardar(base::kAplicacion, "Valores", "AvBoletos", "NO");
+        ajustes.Guardar(base::kAplicacion, "Pleno15", "Goles1", "1");
+        ajustes.Guardar(base::kAplicacion, "Pleno15", "Goles2", "1");
+    }
+
+    std::unique_ptr<ui::VentanaPrincipal> Ventana(
+        const std::optional<std::filesystem::path>& argumento = std::nullopt) {
+        auto v = std::make_unique<ui::VentanaPrincipal>(
+            ui::Servicios{trabajo.Ruta(), programa.Ruta(), ajustes, dialogo, &reductor});
+        v->Arrancar(argumento);
+        v->show();
+        if (!QTest::qWaitForWindowExposed(v.get())) qFatal("La ventana no se muestra");
+        return v;
+    }
+};
+
+template <typename T>
+T* Hijo(QObject& madre, const QString& nombre) {
+    T* hijo = madre.findChild<T*>(nombre);
+    if (hijo == nullptr) qFatal("Falta %s", qPrintable(nombre));
+    return hijo;
+}
+
+// Un clic de verdad en el centro de una celda.
+inline void Pulsar(QTableWidget* tabla, int fila, int columna) {
+    tabla->scrollToItem(tabla->item(fila, columna));
+    const QRect r = tabla->visualItemRect(tabla->item(fila, columna));
+    QTest::mouseClick(tabla->viewport(), Qt::LeftButton, {}, r.center());
+}
+
+inline void Pagina(ui::VentanaPrincipal& v, int pagina) {
+    QTest::mouseClick(Hijo<QPushButton>(v, QStringLiteral("BotonPagina%1").arg(pagina)),
+                      Qt::LeftButton);
+}
+
+inline void ElegirJornada(ui::VentanaPrincipal& v, int jornada) {
+    auto* lista = Hijo<QComboBox>(v, QStringLiteral("ListaJornadas"));
+    const int i = lista->findData(jornada);
+    lista->setCurrentIndex(i);
+    emit lista->activated(i);
+}
+
+// Marca en la rejilla de la base los signos dados (partido 1 a 14, signo 0 a 2) y pone los goles
+// del Pleno con el teclado.
+inline void PonerBase(ui::VentanaPrincipal& v, std::initializer_list<std::pair<int, int>> signos,
+                      char golLocal, char golVisitante) {
+    auto* rejilla = Hijo<QTableWidget>(v, QStringLiteral("RejillaBase"));
+    for (auto [partido, signo] : signos) Pulsar(rejilla, partido - 1, signo + 2);
+    rejilla->setFocus();
+    rejilla->setCurrentCell(14, 2);
+    QTest::keyClick(rejilla, golLocal);
+    rejilla->setCurrentCell(14, 4);
+    QTest::keyClick(rejilla, golVisitante);
+}
+
+// Los catorce "1" y tres partidos más con signos añadidos.
+inline void BaseDeEjemplo(ui::VentanaPrincipal& v) {
+    PonerBase(v, {}, '1', 'm');
+    auto* rejilla = Hijo<QTableWidget>(v, QStringLiteral("RejillaBase"));
+    for (int p = 1; p <= 14; ++p) Pulsar(rejilla, p - 1, 2);
+    // Dobles en 1 y 2 (1X), triples en 3 y 4.
+    for (auto [p, s] : {std::pair{1, 1}, {2, 1}, {3, 1}, {3, 2}, {4, 1}, {4, 2}})
+        Pulsar(rejilla, p - 1, s + 2);
+}
+
+inline void EsperarTrabajo(ui::VentanaPrincipal& v) {
+    QTRY_VERIFY_WITH_TIMEOUT(!v.Trabajo().EnCurso(), 60000);
+}
+
+}  // namespace quinteva::pruebas

@@ -1,0 +1,134 @@
+#include "ui/report_windows.h"
+
+#include <QDialogButtonBox>
+#include <QFormLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QPushButton>
+#include <QTableWidget>
+#include <QVBoxLayout>
+
+namespace quinteva::ui {
+namespace {
+
+QString Q(const std::string& t) { return QString::fromStdString(t); }
+
+QTableWidgetItem* Item(const QString& texto, bool negrita, bool derecha) {
+    auto* item = new QTableWidgetItem(texto);
+    QFont f = item->font();
+    f.setBold(negrita);
+    item->setFont(f);
+    item->setTextAlignment((derecha ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
+    return item;
+}
+
+QTableWidget* Rejilla(QWidget* madre, const QString& nombre, int filas,
+                      const QStringList& cabeceras) {
+    auto* r = new QTableWidget(filas, static_cast<int>(cabeceras.size()), madre);
+    r->setObjectName(nombre);
+    r->setHorizontalHeaderLabels(cabeceras);
+    r->verticalHeader()->hide();
+    r->verticalHeader()->setDefaultSectionSize(r->fontMetrics().height() + 6);
+    r->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    r->setSelectionMode(QAbstractItemView::NoSelection);
+    return r;
+}
+
+// "&Aceptar" que cierra la ventana, con el foco al abrirse.
+void Aceptar(QDialog* ventana, QVBoxLayout* caja) {
+    auto* botones = new QDialogButtonBox(ventana);
+    auto* aceptar = botones->addButton(QStringLiteral("&Aceptar"), QDialogButtonBox::AcceptRole);
+    aceptar->setObjectName(QStringLiteral("BotonAceptar"));
+    aceptar->setDefault(true);
+    QObject::connect(botones, &QDialogButtonBox::accepted, ventana, &QDialog::accept);
+    caja->addWidget(botones);
+    aceptar->setFocus();
+}
+
+}  // namespace
+
+VentanaRechazadas::VentanaRechazadas(const std::vector<engine::FilaInforme>& filas, QWidget* madre)
+    : QDialog(madre) {
+    setObjectName(QStringLiteral("VentanaRechazadas"));
+    setWindowTitle(QStringLiteral("Rechazadas"));
+    auto* caja = new QVBoxLayout(this);
+    auto* titulo =
+        new QLabel(QStringLiteral("Informe sobre Columnas rechazadas por los filtros"), this);
+    titulo->setStyleSheet(QStringLiteral("font-weight: bold"));
+    caja->addWidget(titulo);
+    auto* r = Rejilla(this, QStringLiteral("RejillaRechazadas"), static_cast<int>(filas.size()),
+                      {QStringLiteral("Filtro"), QStringLiteral("Número")});
+    for (std::size_t i = 0; i < filas.size(); ++i) {
+        const bool total = i + 1 == filas.size();
+        r->setItem(static_cast<int>(i), 0, Item(Q(filas[i].primera), total, false));
+        r->setItem(static_cast<int>(i), 1, Item(Q(filas[i].segunda), total, true));
+    }
+    r->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
+    r->setColumnWidth(1, r->fontMetrics().horizontalAdvance(QStringLiteral("4.782.969")) + 40);
+    r->setMinimumSize(
+        r->fontMetrics().horizontalAdvance(QStringLiteral("Más de 10 Grupos de Ac. fallados")) +
+            r->columnWidth(1) + 40,
+        r->verticalHeader()->defaultSectionSize() * 14);
+    caja->addWidget(r);
+    Aceptar(this, caja);
+}
+
+VentanaTablaReducciones::VentanaTablaReducciones(const std::vector<FilaTablaReducciones>& filas,
+                                                 QWidget* madre)
+    : QDialog(madre) {
+    setObjectName(QStringLiteral("VentanaTablaReducciones"));
+    setWindowTitle(QStringLiteral("Tabla de reducciones"));
+    auto* caja = new QVBoxLayout(this);
+    auto* titulo = new QLabel(QStringLiteral("Tabla de Reducciones que se utiliza si no hay "
+                                             "Condiciones (en negrita reducciones óptimas)"),
+                              this);
+    titulo->setWordWrap(true);
+    caja->addWidget(titulo);
+    auto* cabecera = new QLabel(QStringLiteral("Nº de apuestas reducidas"), this);
+    cabecera->setAlignment(Qt::AlignRight);
+    caja->addWidget(cabecera);
+    auto* r =
+        Rejilla(this, QStringLiteral("RejillaTablaReducciones"), static_cast<int>(filas.size()),
+                {QStringLiteral("Combinaciones"), QStringLiteral("Al 13"), QStringLiteral("Al 12"),
+                 QStringLiteral("Al 11")});
+    for (std::size_t i = 0; i < filas.size(); ++i) {
+        const int f = static_cast<int>(i);
+        r->setItem(f, 0, Item(Q(filas[i].combinaciones), false, false));
+        for (int n = 0; n < 3; ++n) {
+            const auto& celda = filas[i].niveles[static_cast<std::size_t>(n)];
+            auto* item = Item(Q(celda.texto), celda.negrita, true);
+            item->setTextAlignment(Qt::AlignCenter);
+            r->setItem(f, n + 1, item);
+        }
+    }
+    const int cifra = r->fontMetrics().horizontalAdvance(QStringLiteral("19683")) + 30;
+    r->setColumnWidth(
+        0, r->fontMetrics().horizontalAdvance(QStringLiteral("1 Triple y 10 Dobles")) + 30);
+    for (int n = 1; n <= 3; ++n) r->setColumnWidth(n, cifra);
+    r->setMinimumSize(r->columnWidth(0) + 3 * cifra + 40,
+                      r->verticalHeader()->defaultSectionSize() * 20);
+    caja->addWidget(r);
+    Aceptar(this, caja);
+}
+
+VentanaReduccion::VentanaReduccion(const InformeReduccion& informe, QWidget* madre)
+    : QDialog(madre) {
+    setObjectName(QStringLiteral("VentanaReduccion"));
+    setWindowTitle(QStringLiteral("Reducción"));
+    auto* caja = new QVBoxLayout(this);
+    auto* formulario = new QFormLayout;
+    const auto valor = [this](const QString& nombre, const QString& texto) {
+        auto* l = new QLabel(texto, this);
+        l->setObjectName(nombre);
+        l->setStyleSheet(QStringLiteral("font-weight: bold"));
+        return l;
+    };
+    formulario->addRow(QStringLiteral("La reducción realizada es del"),
+                       valor(QStringLiteral("ValorReduccion"), Q(informe.reduccion)));
+    formulario->addRow(QStringLiteral("Probabilidad de obtener 14 aciertos"),
+                       valor(QStringLiteral("ValorProbabilidad"), Q(informe.probabilidad)));
+    caja->addLayout(formulario);
+    Aceptar(this, caja);
+}
+
+}  // namespace quinteva::ui

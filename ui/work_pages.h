@@ -1,0 +1,73 @@
+#pragma once
+
+#include <QWidget>
+#include <array>
+
+class QFormLayout;
+class QLabel;
+class QProgressBar;
+class QPushButton;
+class QRadioButton;
+class QTableWidget;
+
+namespace quinteva::ui {
+
+// Un rótulo con su valor a la derecha, para las cifras de las páginas.
+QLabel* CifraConRotulo(QWidget* madre, QFormLayout* formulario, const QString& rotulo,
+                       const QString& nombre);
+
+// La página "Generar" ("Generar Apuestas"). Los botones los maneja la ventana principal.
+class PaginaGenerar : public QWidget {
+    Q_OBJECT
+
+  public:
+    explicit PaginaGenerar(QWidget* madre = nullptr);
+
+    QLabel* posibles;
+    QLabel* dobles;
+    QLabel* triples;
+    QLabel* seleccionadas;
+    QLabel* condiciones;
+    QPushButton* generar;
+    QPushButton* detener;
+    QPushButton* info;
+    QProgressBar* barra;
+};
+
+// La página "Reducir": las cuatro opciones (la cuarta oculta), la rejilla de partidos que entran
+// en la reducción y los botones.
+class PaginaReducir : public QWidget {
+    Q_OBJECT
+
+  public:
+    explicit PaginaReducir(QWidget* madre = nullptr);
+    // Nivel de la primera opción marcada: 0 "al 13", 1 "al 12", 2 "al 11", 3 "al 10".
+    int Nivel() const;
+
+    std::array<QRadioButton*, 4> opciones{};
+    QLabel* rotuloSeleccion;
+    QTableWidget* seleccion;
+    QLabel* total;
+    QLabel* reducidas;
+    QLabel* condiciones;
+    QPushButton* reducir;
+    QPushButton* detener;
+    QPushButton* tabla;
+    QPushButton* info;
+    QProgressBar* barra;
+};
+
+// La página "Boletos" ("Generación de Boletos"): el conjunto que se juega y su cuenta. Sus
+// mandatos vienen después y se ven deshabilitados.
+class PaginaBoletos : public QWidget {
+    Q_OBJECT
+
+  public:
+    explicit PaginaBoletos(QWidget* madre = nullptr);
+
+    QRadioButton* condicionada;
+    QRadioButton* reducida;
+    QLabel* enTotal;
+};
+
+}  // namespace quinteva::ui
