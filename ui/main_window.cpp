@@ -6,6 +6,7 @@
 #include <QDir>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMenuBar>
 #include <QProgressBar>
 #include <QPushButton>
@@ -29,6 +30,7 @@
 #include "engine/pricing.h"
 #include "seasons/demo_season.h"
 #include "ui/base_page.h"
+#include "ui/boletos_notice.h"
 #include "ui/conditions_page.h"
 #include "ui/info_panel.h"
 #include "ui/options_window.h"
@@ -59,10 +61,6 @@ constexpr std::string_view kAvisoPleno =
 constexpr std::string_view kPreguntaCopiar =
     "Se copiarán las condiciones siguientes de la combinación que usted seleccione: "
     "Interrupciones, Interrupciones consecutivas, Parejas, Tríos y Repeticiones. Desea continuar?";
-constexpr std::string_view kAvisoBoletos =
-    "Las apuestas están listas. En la página \"Boletos\" se elige qué se juega, la Condicionada o "
-    "la Reducida, se ajusta el número de apuestas y se imprimen los boletos o se genera el archivo "
-    "oficial.\n\nDesea volver a ver este aviso?";
 constexpr std::string_view kBienvenida =
     "Bienvenido a Quinteva.\n\nElija una Jornada en la página \"Quin. Base\", marque los signos de "
     "cada partido y los goles del Pleno al 15, ponga las condiciones que quiera y genere las "
@@ -70,14 +68,6 @@ constexpr std::string_view kBienvenida =
     "programa "
     "es de demostración: sus resultados son inventados.\n\nDesea volver a ver esta ventana al "
     "empezar?";
-
-// Una ventana auxiliar: modal sobre la principal, sin bucle de eventos propio, y se borra al
-// cerrarse.
-void AbrirVentana(QDialog* ventana) {
-    ventana->setAttribute(Qt::WA_DeleteOnClose);
-    ventana->setWindowModality(Qt::WindowModal);
-    ventana->open();
-}
 
 }  // namespace
 
@@ -101,6 +91,7 @@ VentanaPrincipal::VentanaPrincipal(Servicios servicios, QWidget* madre)
     temporizadorVersion_.setInterval(3000);
     connect(&trabajo_, &TrabajoEnSegundoPlano::fallo, this, [this](const QString& error) {
         refresco_.stop();
+        ajustando_ = false;
         Ocupado(false);
         s_.dialogo.Mensaje("Error: " + error.toStdString(), base::Icono::Error);
         Refrescar();
@@ -165,8 +156,11 @@ void VentanaPrincipal::CrearPaginas() {
     connect(reducir_->info, &QPushButton::clicked, this, &VentanaPrincipal::InfoReduccion);
     connect(reducir_->seleccion, &QTableWidget::cellClicked, this,
             [this](int fila, int) { SeleccionPulsada(fila); });
+    ConectarBoletos();
     connect(&trabajo_, &TrabajoEnSegundoPlano::terminado, this, [this] {
-        if (reduciendo_) {
+        if (ajustando_) {
+            FinAjuste();
+        } else if (reduciendo_) {
             FinReduccion();
         } else {
             FinGeneracion();
@@ -180,6 +174,15 @@ QAction* VentanaPrincipal::Accion(QMenu* menu, const QString& texto, const QStri
     a->setObjectName(nombre);
     a->setEnabled(habilitada);
     return a;
+}
+
+void VentanaPrincipal::AbrirVentana(QDialog* ventana) {
+    const auto twips = [this](int t) { return t * logicalDpiX() / 1440; };
+    ventana->setAttribute(Qt::WA_DeleteOnClose);
+    ventana->setWindowModality(Qt::WindowModal);
+    ventana->move(frameGeometry().left() + twips(4800),
+                  geometry().top() + menuBar()->height() + twips(600));
+    ventana->open();
 }
 
 void VentanaPrincipal::CrearMenus() {
@@ -218,10 +221,12 @@ void VentanaPrincipal::CrearMenus() {
     ver->setObjectName(QStringLiteral("MenuVer"));
     Accion(ver, QStringLiteral("&Resumen de Condiciones"), QStringLiteral("AccionResumen"), false);
     QMenu* listados = ver->addMenu(QStringLiteral("&Listados"));
-    Accion(listados, QStringLiteral("De Apuestas &Condicionadas"),
-           QStringLiteral("AccionListadoCondicionadas"), false);
-    Accion(listados, QStringLiteral("De Apuestas &Reducidas"),
-           QStringLiteral("AccionListadoReducidas"), false);
+    listadoCondicionadas_ = Accion(listados, QStringLiteral("De Apuestas &Condicionadas"),
+                                   QStringLiteral("AccionListadoCondicionadas"), false);
+    connect(listadoCondicionadas_, &QAction::triggered, this, [this] { Listado(true); });
+    listadoReducidas_ = Accion(listados, QStringLiteral("De Apuestas &Reducidas"),
+                               QStringLiteral("AccionListadoReducidas"), false);
+    connect(listadoReducidas_, &QAction::triggered, this, [this] { Listado(false); });
     Accion(ver, QStringLiteral("&Quinielas"), QStringLiteral("AccionQuinielas"), false);
     Accion(ver, QStringLiteral("&Estadísticas"), QStringLiteral("AccionEstadisticas"), false);
     Accion(ver, QStringLiteral("&Columnas Ganadoras"), QStringLiteral("AccionColumnasGanadoras"),
@@ -246,8 +251,9 @@ void VentanaPrincipal::CrearMenus() {
            QStringLiteral("AccionRefundir"), false);
     Accion(herramientas, QStringLiteral("Importar &archivo"), QStringLiteral("AccionImportar"),
            false);
-    Accion(herramientas, QStringLiteral("&Leer o modificar archivo JSON"),
-           QStringLiteral("AccionJson"), false);
+    connect(Accion(herramientas, QStringLiteral("&Leer o modificar archivo JSON"),
+                   QStringLiteral("AccionJson")),
+            &QAction::triggered, this, &VentanaPrincipal::ArchivoJson);
     Accion(herramientas, QStringLiteral("&Actualización del programa"),
            QStringLiteral("AccionActualizacion"), false);
     connect(Accion(herramientas, QStringLiteral("&Opciones"), QStringLiteral("AccionOpciones")),
@@ -296,6 +302,8 @@ void VentanaPrincipal::CrearBarra() {
           QStringLiteral("BarraImprimir"), nullptr);
     boton(QStyle::SP_FileDialogListView, QStringLiteral("Listado de lo jugado"),
           QStringLiteral("BarraListado"), nullptr);
+    listadoJugado_ = findChild<QAction*>(QStringLiteral("BarraListado"));
+    connect(listadoJugado_, &QAction::triggered, this, [this] { Listado(comb_.jugada == "cnd"); });
     barra_->addSeparator();
     boton(QStyle::SP_DialogHelpButton, QStringLiteral("Ayuda"), QStringLiteral("BarraAyuda"),
           nullptr);
@@ -378,6 +386,7 @@ void VentanaPrincipal::LimpiarCombinacion(bool vaciarRuta) {
     resultado_ = {};
     generar_->info->setEnabled(false);
     reducir_->info->setEnabled(false);
+    fechaJornada_.clear();
     base_->PonerFecha({});
     condiciones_->Mostrar();
 }
@@ -389,7 +398,8 @@ void VentanaPrincipal::PonerPartidos(int jornada) {
         comb_.base.PonerEquipos(static_cast<int>(i) + 1, j.partidos[i].equipos);
         divisiones_[i] = j.partidos[i].division;
     }
-    base_->PonerFecha(Q(j.fecha));
+    fechaJornada_ = Q(j.fecha);
+    base_->PonerFecha(fechaJornada_);
     base_->SeleccionarJornada(jornada);
 }
 
@@ -457,6 +467,7 @@ void VentanaPrincipal::Abrir(const fs::path& ruta, int reciente) {
     seleccionReduccion_ = {};
     generar_->info->setEnabled(false);
     reducir_->info->setEnabled(false);
+    fechaJornada_.clear();
     base_->PonerFecha({});
     base_->SeleccionarJornada(0);
     if (std::find(temporada_.jornadas.begin(), temporada_.jornadas.end(), comb_.jornada) !=
@@ -481,6 +492,8 @@ bool VentanaPrincipal::GuardarCon(FlujoDeGuardar flujo) {
     try {
         const bool hecho =
             flujo(comb_, s_.carpetaTrabajo, s_.carpetaPrograma, s_.ajustes, s_.dialogo);
+        // Como al abrir el archivo guardado: con columnas generadas, la página Boletos.
+        if (hecho && comb_.totalGeneradas > 0) Habilitar(kBoletos, true);
         RefrescarRecientes();
         Refrescar();
         return hecho;
@@ -534,9 +547,7 @@ void VentanaPrincipal::AcercaDe() {
 
 void VentanaPrincipal::AvisoBoletos() {
     if (s_.ajustes.Leer(base::kAplicacion, kValores, "AvBoletos", "SI") != "SI") return;
-    if (s_.dialogo.PreguntaSiNo(kAvisoBoletos, base::Respuesta::Si) == base::Respuesta::No) {
-        s_.ajustes.Guardar(base::kAplicacion, kValores, "AvBoletos", "NO");
-    }
+    AbrirVentana(new VentanaAvisoBoletos(s_.ajustes, this));
 }
 
 // ---------------------------------------------------------------------------------------------
@@ -639,12 +650,21 @@ void VentanaPrincipal::Ocupado(bool ocupado) {
     condiciones_->setEnabled(!ocupado);
     generar_->generar->setEnabled(!ocupado);
     generar_->info->setEnabled(false);
-    generar_->detener->setEnabled(ocupado && !reduciendo_);
+    generar_->detener->setEnabled(ocupado && !reduciendo_ && !ajustando_);
     reducir_->reducir->setEnabled(!ocupado);
     reducir_->tabla->setEnabled(!ocupado);
     reducir_->info->setEnabled(false);
     reducir_->detener->setEnabled(ocupado && reduciendo_);
     for (auto* o : reducir_->opciones) o->setEnabled(!ocupado);
+    boletos_->detener->setEnabled(ocupado && ajustando_);
+    if (ocupado) {
+        for (QWidget* w : std::initializer_list<QWidget*>{
+                 boletos_->condicionada, boletos_->reducida, boletos_->campoAjustar,
+                 boletos_->ajustar, boletos_->oficial, boletos_->txt, boletos_->eliminarManual,
+                 boletos_->anadirManual}) {
+            w->setEnabled(false);
+        }
+    }
     if (ocupado) {
         setCursor(Qt::BusyCursor);
     } else {
@@ -724,6 +744,8 @@ void VentanaPrincipal::FinReduccion() {
     RefrescarProgreso();
     reducir_->barra->setValue(reducir_->barra->maximum());
     reduciendo_ = false;
+    // Con columnas reducidas, la página Boletos ya puede elegir lo que se juega.
+    Habilitar(kBoletos, comb_.activasReducidas > 0);
     Ocupado(false);
     reducir_->info->setEnabled(comb_.activasReducidas > 0);
     AvisoBoletos();
@@ -807,13 +829,7 @@ void VentanaPrincipal::Refrescar() {
     base_->Mostrar(comb_.base);
     RefrescarPaginaGenerar();
     RefrescarPaginaReducir();
-    boletos_->condicionada->setEnabled(comb_.activasGeneradas > 0);
-    boletos_->reducida->setEnabled(comb_.activasReducidas > 0);
-    boletos_->condicionada->setChecked(comb_.jugada == "cnd");
-    boletos_->reducida->setChecked(comb_.jugada == "red");
-    const std::int32_t jugadas =
-        comb_.jugada == "red" ? comb_.activasReducidas : comb_.activasGeneradas;
-    boletos_->enTotal->setText(Cifra(static_cast<double>(jugadas)));
+    RefrescarPaginaBoletos();
 }
 
 void VentanaPrincipal::RefrescarPaginaGenerar() {

@@ -6,15 +6,20 @@
 #include <filesystem>
 #include <optional>
 
+#include "base/chance.h"
 #include "base/dialog.h"
 #include "base/settings.h"
+#include "builders/adjustment.h"
+#include "builders/boletos.h"
 #include "engine/combination.h"
 #include "engine/generation.h"
 #include "seasons/startup.h"
 #include "ui/background_work.h"
+#include "ui/cross_thread_dialog.h"
 #include "ui/reduction_seam.h"
 
 class QAction;
+class QDialog;
 class QLabel;
 class QMenu;
 class QPushButton;
@@ -80,6 +85,18 @@ class VentanaPrincipal : public QMainWindow {
     void Opciones();
     void AcercaDe();
 
+    // La página Boletos: el conjunto que se juega, el ajuste y los mandatos de salida.
+    void ElegirJuego(builders::Jugada jugada);
+    void Ajustar();
+    void ArchivoOficial();
+    void ArchivoTxt();
+    void EliminarManual();
+    void AnadirManual();
+    // "Quinteva [Listado de Apuestas]" de las Condicionadas o de las Reducidas.
+    void Listado(bool condicionadas);
+    // "&Leer o modificar archivo JSON".
+    void ArchivoJson();
+
   protected:
     void closeEvent(QCloseEvent* evento) override;
 
@@ -89,6 +106,9 @@ class VentanaPrincipal : public QMainWindow {
     void CrearBarra();
     QAction* Accion(QMenu* menu, const QString& texto, const QString& nombre,
                     bool habilitada = true);
+    // Una ventana auxiliar: modal sobre la principal, sin bucle de eventos propio, junto a ella
+    // (4800 twips a la derecha de su borde y 600 bajo su menú), y se borra al cerrarse.
+    void AbrirVentana(QDialog* ventana);
 
     // Ante lo que borraría el trabajo sin guardar: "Desea guardar la Quiniela actual?". false si
     // el usuario cancela (o no llega a guardar).
@@ -124,6 +144,19 @@ class VentanaPrincipal : public QMainWindow {
     void InfoReduccion();
     void SeleccionPulsada(int fila);
 
+    void ConectarBoletos();
+    builders::EntornoBoletos Entorno();
+    // El del trabajo en segundo plano: pregunta por el hilo de la ventana.
+    builders::EntornoBoletos EntornoDelHilo();
+    // Sin nombre: "Por favor guarde antes la combinación" y "G&uardar como". true si hay nombre.
+    bool ExigirNombre();
+    // alAzarSiVuelveSin: si la ventana se cierra sin añadir, una columna al azar.
+    void AbrirAnadir(bool alAzarSiVuelveSin);
+    void FinAjuste();
+    // El año de la fecha de la Jornada que se muestra ("dd/MM/yy"); el actual si no hay.
+    int AnioDeLaJornada() const;
+    void RefrescarPaginaBoletos();
+
     void Habilitar(int pagina, bool habilitada);
     void Refrescar();
     void RefrescarPaginaGenerar();
@@ -153,11 +186,19 @@ class VentanaPrincipal : public QMainWindow {
     QAction* copiar_ = nullptr;
     std::array<QAction*, 3> recientes_{};
     QAction* ultimaPena_ = nullptr;
+    QAction* listadoCondicionadas_ = nullptr;
+    QAction* listadoReducidas_ = nullptr;
+    QAction* listadoJugado_ = nullptr;
 
     TrabajoEnSegundoPlano trabajo_;
     QTimer refresco_;
     QTimer temporizadorVersion_;
     bool reduciendo_ = false;
+    bool ajustando_ = false;
+    builders::Ajuste ajuste_;
+    base::AzarEstandar azar_{base::AzarEstandar::SemillaDelReloj()};
+    DialogoEntreHilos dialogoDelHilo_{s_.dialogo, this};
+    QString fechaJornada_;
     bool verContador_ = true;
     bool verBarra_ = true;
     engine::ResultadoGeneracion resultado_;

@@ -10,6 +10,7 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QRegularExpressionValidator>
 #include <QTableWidget>
 #include <QVBoxLayout>
 
@@ -188,32 +189,42 @@ PaginaBoletos::PaginaBoletos(QWidget* madre) : QWidget(madre) {
     auto* formulario = new QFormLayout;
     enTotal = CifraConRotulo(this, formulario, QStringLiteral("Apuestas que se juegan en total "),
                              QStringLiteral("ApuestasEnTotal"));
-    auto* ajustar = new QHBoxLayout;
-    auto* campo = new QLineEdit(this);
-    campo->setObjectName(QStringLiteral("CampoAjustar"));
-    campo->setEnabled(false);
-    ajustar->addWidget(campo);
-    auto* botonAjustar =
-        Boton(this, ajustar, QStringLiteral("Ajustar"), QStringLiteral("BotonAjustar"));
-    botonAjustar->setEnabled(false);
-    formulario->addRow(QStringLiteral("Ajustar nº de apuestas a:"), ajustar);
+    auto* filaAjustar = new QHBoxLayout;
+    campoAjustar = new QLineEdit(this);
+    campoAjustar->setObjectName(QStringLiteral("CampoAjustar"));
+    campoAjustar->setValidator(
+        new QRegularExpressionValidator(QRegularExpression(QStringLiteral("[0-9]{0,7}")), this));
+    campoAjustar->setMaximumWidth(
+        campoAjustar->fontMetrics().horizontalAdvance(QStringLiteral("00000000")) + 16);
+    filaAjustar->addWidget(campoAjustar);
+    ajustar = Boton(this, filaAjustar, QStringLiteral("Ajustar"), QStringLiteral("BotonAjustar"));
+    detener =
+        Boton(this, filaAjustar, QStringLiteral("&Detener"), QStringLiteral("BotonDetenerAjuste"));
+    detener->setEnabled(false);
+    filaAjustar->addStretch();
+    formulario->addRow(QStringLiteral("Ajustar nº de apuestas a:"), filaAjustar);
     caja->addLayout(formulario);
     auto* mandatos = new QGroupBox(QStringLiteral("Salida"), this);
     auto* cajaMandatos = new QGridLayout(mandatos);
-    const std::array<std::pair<const char*, const char*>, 6> textos = {{
-        {"BotonImprimirBoletos", "Imprimir en Boletos"},
-        {"BotonImprimirPapel", "Imprimir en papel blanco"},
-        {"BotonArchivoOficial", "Generar archivo &Oficial"},
-        {"BotonArchivoTxt", "Generar archivo txt"},
-        {"BotonEliminarManual", "Eliminar columnas manual."},
-        {"BotonAnadirManual", "Añadir columnas manual."},
-    }};
-    for (std::size_t i = 0; i < textos.size(); ++i) {
-        auto* b = new QPushButton(QString::fromUtf8(textos[i].second), mandatos);
-        b->setObjectName(QString::fromUtf8(textos[i].first));
+    const auto mandato = [mandatos, cajaMandatos](const char* texto, const char* nombre, int fila,
+                                                  int columna) {
+        auto* b = new QPushButton(QString::fromUtf8(texto), mandatos);
+        b->setObjectName(QString::fromUtf8(nombre));
         b->setEnabled(false);
-        cajaMandatos->addWidget(b, static_cast<int>(i / 2), static_cast<int>(i % 2));
-    }
+        cajaMandatos->addWidget(b, fila, columna);
+        return b;
+    };
+    imprimirBoletos = mandato("Imprimir en Boletos", "BotonImprimirBoletos", 0, 0);
+    imprimirPapel = mandato("Imprimir en papel blanco", "BotonImprimirPapel", 0, 1);
+    oficial = mandato("Generar archivo &Oficial", "BotonArchivoOficial", 1, 0);
+    txt = mandato("Generar archivo txt", "BotonArchivoTxt", 1, 1);
+    auto* nota = new QLabel(QStringLiteral("Se genera archivo oficial JSON. Mínimo 100 columnas. "
+                                           "Validación por soporte magnético."),
+                            mandatos);
+    nota->setWordWrap(true);
+    cajaMandatos->addWidget(nota, 2, 0, 1, 2);
+    eliminarManual = mandato("Eliminar columnas manual.", "BotonEliminarManual", 3, 0);
+    anadirManual = mandato("Añadir columnas manual.", "BotonAnadirManual", 3, 1);
     caja->addWidget(mandatos);
     caja->addStretch();
 }

@@ -5,6 +5,7 @@
 
 class QFormLayout;
 class QLabel;
+class QLineEdit;
 class QProgressBar;
 class QPushButton;
 class QRadioButton;
@@ -57,8 +58,9 @@ class PaginaReducir : public QWidget {
     QProgressBar* barra;
 };
 
-// La página "Boletos" ("Generación de Boletos"): el conjunto que se juega y su cuenta. Sus
-// mandatos vienen después y se ven deshabilitados.
+// La página "Boletos" ("Generación de Boletos"): el conjunto que se juega, su cuenta, el ajuste
+// a un número de apuestas y los mandatos de salida. Los maneja la ventana principal; los de
+// imprimir se ven deshabilitados hasta que llegue la impresión.
 class PaginaBoletos : public QWidget {
     Q_OBJECT
 
@@ -68,6 +70,15 @@ class PaginaBoletos : public QWidget {
     QRadioButton* condicionada;
     QRadioButton* reducida;
     QLabel* enTotal;
+    QLineEdit* campoAjustar;
+    QPushButton* ajustar;
+    QPushButton* detener;
+    QPushButton* imprimirBoletos;
+    QPushButton* imprimirPapel;
+    QPushButton* oficial;
+    QPushButton* txt;
+    QPushButton* eliminarManual;
+    QPushButton* anadirManual;
 };
 
 }  // namespace quinteva::ui

@@ -370,21 +370,6 @@ class PruebaVentanaPrincipal : public QObject {
         ventana->close();
     }
 
-    void ElAvisoDeBoletosSePuedeApagar() {
-        pruebas::Instalacion inst;
-        inst.ajustes.Guardar(base::kAplicacion, "Valores", "AvBoletos", "SI");
-        auto v = inst.Ventana();
-        pruebas::ElegirJornada(*v, 25);
-        pruebas::BaseDeEjemplo(*v);
-        pruebas::Pagina(*v, ui::kGenerar);
-        inst.dialogo.Responder(base::Respuesta::No);
-        QTest::mouseClick(Hijo<QPushButton>(*v, "BotonGenerar"), Qt::LeftButton);
-        pruebas::EsperarTrabajo(*v);
-        QCOMPARE(inst.dialogo.Registro().size(), std::size_t{1});
-        QCOMPARE(inst.ajustes.Leer(base::kAplicacion, "Valores", "AvBoletos", ""),
-                 std::string("NO"));
-    }
-
     void OpcionesGuardaLasCasillasYElPrecio() {
         pruebas::Instalacion inst;
         auto v = inst.Ventana();
