@@ -33,7 +33,6 @@ VentanaListado::VentanaListado(const QString& rotulo, const std::filesystem::pat
     auto* fila = new QHBoxLayout;
     lista_ = new QListWidget(this);
     lista_->setObjectName(QStringLiteral("ListaApuestas"));
-    lista_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     lista_->setSelectionMode(QAbstractItemView::NoSelection);
     QFont fija(QStringLiteral("Courier New"));
     fija.setStyleHint(QFont::Monospace);
@@ -41,7 +40,7 @@ VentanaListado::VentanaListado(const QString& rotulo, const std::filesystem::pat
     const QFontMetrics medidas(fija);
     lista_->setMinimumSize(
         medidas.horizontalAdvance(QStringLiteral("0.000.000  11111111111111")) + 40,
-        medidas.height() * 24);
+        medidas.height() * 20);
     fila->addWidget(lista_, 1);
     barra_ = new QScrollBar(Qt::Vertical, this);
     barra_->setObjectName(QStringLiteral("BarraListado"));

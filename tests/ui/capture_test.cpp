@@ -1,13 +1,22 @@
 #include <QAction>
 #include <QDir>
 #include <QImage>
+#include <QLineEdit>
+#include <QRadioButton>
 #include <QTabWidget>
 #include <QtTest>
 
 #include "engine/analysis.h"
 #include "tests/ui/window_fixture.h"
+#include "ui/add_columns_window.h"
+#include "ui/bets_list_window.h"
+#include "ui/boletos_notice.h"
+#include "ui/json_file_window.h"
+#include "ui/official_file_window.h"
 #include "ui/options_window.h"
+#include "ui/remove_columns_window.h"
 #include "ui/report_windows.h"
+#include "ui/text_type_window.h"
 
 using namespace quinteva;
 using pruebas::Hijo;
@@ -64,7 +73,51 @@ class PruebaCapturas : public QObject {
         Hijo<QAction>(*v, "AccionGuardarComo")->trigger();
         auto w = inst.Ventana(inst.documentos / "Captura.uxd");
         pruebas::Pagina(*w, ui::kBoletos);
+        auto* reducida = Hijo<QRadioButton>(*w, "OpcionReducida");
+        QTest::mouseClick(reducida, Qt::LeftButton, {}, QPoint(8, reducida->height() / 2));
         Capturar(*w, QStringLiteral("pagina_4_boletos"));
+        CapturarVentanasDeBoletos(inst, *w);
+    }
+
+    // Cada ventana que se abre desde la página Boletos y los menús, sobre la Combinación dada.
+    void CapturarVentanasDeBoletos(pruebas::Instalacion& inst, ui::VentanaPrincipal& v) {
+        QTest::mouseClick(Hijo<QPushButton>(v, "BotonEliminarManual"), Qt::LeftButton);
+        auto* eliminar = Hijo<ui::VentanaEliminarColumnas>(v, "VentanaEliminarColumnas");
+        Hijo<QComboBox>(*eliminar, "ComboModo")->setCurrentIndex(0);
+        Hijo<QComboBox>(*eliminar, "ComboNumero")->setCurrentIndex(2);
+        Hijo<QComboBox>(*eliminar, "ComboSigno")->setCurrentIndex(3);
+        QTest::mouseClick(Hijo<QPushButton>(*eliminar, "BotonEliminar"), Qt::LeftButton);
+        Capturar(*eliminar, QStringLiteral("ventana_eliminar_columnas"));
+        eliminar->hide();
+        QTest::mouseClick(Hijo<QPushButton>(v, "BotonAnadirManual"), Qt::LeftButton);
+        auto* anadir = Hijo<ui::VentanaAnadirColumnas>(v, "VentanaAnadirColumnas");
+        auto* entrada = Hijo<QTableWidget>(*anadir, "RejillaEntrada");
+        entrada->setFocus();
+        QTest::keyClicks(entrada, QStringLiteral("1x2"));
+        Capturar(*anadir, QStringLiteral("ventana_anadir_columnas"));
+        anadir->hide();
+        QTest::mouseClick(Hijo<QPushButton>(v, "BotonArchivoTxt"), Qt::LeftButton);
+        Capturar(*Hijo<ui::VentanaTipoArchivo>(v, "VentanaTipoArchivo"),
+                 QStringLiteral("ventana_tipo_archivo"));
+        QTest::mouseClick(Hijo<QPushButton>(v, "BotonArchivoOficial"), Qt::LeftButton);
+        auto* oficial = Hijo<ui::VentanaArchivoOficial>(v, "VentanaArchivoOficial");
+        Hijo<QLineEdit>(*oficial, "CampoNombre")->setText(QStringLiteral("Jornada25"));
+        Capturar(*oficial, QStringLiteral("ventana_archivo_oficial"));
+        inst.dialogo.Responder(base::Respuesta::Aceptar)
+            .Responder(std::optional<std::filesystem::path>(inst.documentos.Ruta()))
+            .Responder(base::Respuesta::Si)
+            .Responder(std::optional<std::string>("25"));
+        Hijo<QLineEdit>(*oficial, "CampoReceptor")->setText(QStringLiteral("01234"));
+        QTest::mouseClick(Hijo<QPushButton>(*oficial, "BotonGenerarOficial"), Qt::LeftButton);
+        inst.dialogo.Responder(
+            std::optional<std::filesystem::path>(inst.documentos / "Jornada25.json"));
+        Hijo<QAction>(v, "AccionJson")->trigger();
+        Capturar(*Hijo<ui::VentanaArchivoJson>(v, "VentanaArchivoJson"),
+                 QStringLiteral("ventana_archivo_json"));
+        Hijo<QAction>(v, "AccionListadoCondicionadas")->trigger();
+        Capturar(*Hijo<ui::VentanaListado>(v, "VentanaListado"),
+                 QStringLiteral("ventana_listado_apuestas"));
+        QVERIFY(inst.dialogo.GuionAgotado());
     }
 
     void Ventanas() {
@@ -82,6 +135,8 @@ class PruebaCapturas : public QObject {
         Capturar(tabla, QStringLiteral("ventana_tabla_reducciones"));
         ui::VentanaReduccion reduccion(inst.reductor.Informe(24, 324));
         Capturar(reduccion, QStringLiteral("ventana_reduccion"));
+        ui::VentanaAvisoBoletos aviso(inst.ajustes);
+        Capturar(aviso, QStringLiteral("ventana_aviso_boletos"));
     }
 };
 
