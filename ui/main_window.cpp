@@ -342,6 +342,11 @@ void VentanaPrincipal::Bienvenida() {
 }
 
 void VentanaPrincipal::closeEvent(QCloseEvent* evento) {
+    // Un ajuste puede estar esperando una respuesta en este hilo: mientras dure no se cierra.
+    if (trabajo_.EnCurso() && ajustando_) {
+        evento->ignore();
+        return;
+    }
     if (trabajo_.EnCurso()) {
         trabajo_.Detener();
         trabajo_.Esperar();

@@ -470,6 +470,53 @@ class PruebaBoletos : public QObject {
         listado->close();
     }
 
+    void UnaSolaColumnaEnElUltimoBoletoAbreLaVentanaDeAnadir() {
+        pruebas::Instalacion inst;
+        const fs::path ruta = inst.documentos / "Completar.uxd";
+        auto v = Guardada(inst, ruta);
+        Marcar(*v, "OpcionCondicionada");
+        inst.dialogo.Responder(base::Respuesta::Si);
+        Ajustar(*v, QStringLiteral("16"));
+        // Se devuelve al juego una eliminada: 17.
+        Pulsar(*v, "BotonEliminarManual");
+        auto* eliminar = Hijo<ui::VentanaEliminarColumnas>(*v, "VentanaEliminarColumnas");
+        const Registros cnd = Leer(inst.documentos / "Completar.cnd");
+        const auto eliminada =
+            std::find_if(cnd.begin(), cnd.end(), [](const auto& r) { return r.estado == '1'; });
+        const int numero = static_cast<int>(eliminada - cnd.begin());
+        Hijo<QScrollBar>(*eliminar, QStringLiteral("BarraColumnas"))->setValue(numero / 16 + 1);
+        MenuDeColumna(*eliminar, numero % 16, QStringLiteral("Jugar columna"));
+        QCOMPARE(v->Combinacion().activasGeneradas, 17);
+        // Al cerrar: no se mantiene ninguna eliminada y se añade a mano, en su ventana.
+        const std::size_t marca = inst.dialogo.Registro().size();
+        inst.dialogo.Responder(base::Respuesta::No).Responder(base::Respuesta::Si);
+        Pulsar(*eliminar, "BotonSalir");
+        EsperarCierre<ui::VentanaEliminarColumnas>(*v, "VentanaEliminarColumnas");
+        QCOMPARE(Dichos(inst.dialogo, marca),
+                 (std::vector<std::string>{std::string(builders::kPreguntaMantenerEliminada),
+                                           std::string(builders::kPreguntaAnadirManual)}));
+        auto* anadir = Hijo<ui::VentanaAnadirColumnas>(*v, "VentanaAnadirColumnas");
+        // Cerrada sin añadir, desde aquí no se completa al azar.
+        anadir->close();
+        EsperarCierre<ui::VentanaAnadirColumnas>(*v, "VentanaAnadirColumnas");
+        QCOMPARE(v->Combinacion().activasGeneradas, 17);
+
+        // Al elegir la Condicionada con 17 se pregunta; la ventana de añadir vuelve sin añadir
+        // y se añade una al azar.
+        Marcar(*v, "OpcionReducida");
+        inst.dialogo.Responder(base::Respuesta::Si);
+        Marcar(*v, "OpcionCondicionada");
+        QCOMPARE(Dichos(inst.dialogo).back(), std::string(builders::kPreguntaAnadirManual));
+        anadir = Hijo<ui::VentanaAnadirColumnas>(*v, "VentanaAnadirColumnas");
+        anadir->close();
+        EsperarCierre<ui::VentanaAnadirColumnas>(*v, "VentanaAnadirColumnas");
+        QCOMPARE(Dichos(inst.dialogo).back(), std::string(builders::kMsgAleatoria));
+        QCOMPARE(v->Combinacion().activasGeneradas, 18);
+        QCOMPARE(Texto(*v, "ApuestasEnTotal"), QStringLiteral(" 18"));
+        QCOMPARE(Activas(Leer(inst.documentos / "Completar.cnd")), 18);
+        QVERIFY(inst.dialogo.GuionAgotado());
+    }
+
     void ElAvisoDeBoletosSeApagaConSuCasilla() {
         pruebas::Instalacion inst;
         inst.ajustes.Guardar(base::kAplicacion, "Valores", "AvBoletos", "SI");
