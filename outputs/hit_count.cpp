@@ -1,7 +1,6 @@
 #include "outputs/hit_count.h"
 
 #include <algorithm>
-#include <bit>
 #include <cstring>
 
 #include "base/formats.h"
@@ -23,6 +22,14 @@ std::uint64_t Palabra(const char* bytes) {
 
 // El bit alto de cada byte distinto de cero.
 std::uint64_t BytesDistintos(std::uint64_t x) { return (((x & kBajos) + kBajos) | x) & ~kBajos; }
+
+// Cuántos bytes llevan el bit alto en las dos palabras: cada byte de la suma vale 0, 1 o 2 y la
+// multiplicación los acumula en el byte alto (sin popcount, que sin instrucción propia es una
+// llamada).
+int Marcados(std::uint64_t a, std::uint64_t b) {
+    constexpr std::uint64_t kUnos = 0x0101010101010101ULL;
+    return static_cast<int>((((a >> 7) + (b >> 7)) * kUnos) >> 56);
+}
 
 // La máscara de los bytes de los partidos [desde, desde + 8) que cuentan.
 std::uint64_t Mascara(std::string_view ganadora, std::size_t desde, std::size_t primero,
@@ -68,8 +75,8 @@ Comparador::Comparador(std::string_view ganadora, bool soloConocidos)
 
 int Comparador::Fallos(const char* signos) const {
     const int fallos =
-        std::popcount(BytesDistintos(Palabra(signos) ^ primeros_) & mascaraPrimeros_) +
-        std::popcount(BytesDistintos(Palabra(signos + kSegunda) ^ ultimos_) & mascaraUltimos_);
+        Marcados(BytesDistintos(Palabra(signos) ^ primeros_) & mascaraPrimeros_,
+                 BytesDistintos(Palabra(signos + kSegunda) ^ ultimos_) & mascaraUltimos_);
     return std::min(fallos, kFallosFuera);
 }
 
