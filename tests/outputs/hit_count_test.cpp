@@ -48,8 +48,9 @@ TEST(Comparador, CadaFalloBajaUnLugarYNueveSoloCuenta) {
             EXPECT_EQ(tabla.listas[lugar].size(), 1U);
         }
     }
-    EXPECT_EQ(Una(signos, "1M").cuentas[6], 1);
-    EXPECT_TRUE(std::all_of(Una(signos, "1M").listas.begin(), Una(signos, "1M").listas.end(),
+    const TablaAciertos nueve = Una(signos, "1M");
+    EXPECT_EQ(nueve.cuentas[6], 1);
+    EXPECT_TRUE(std::all_of(nueve.listas.begin(), nueve.listas.end(),
                             [](const auto& l) { return l.empty(); }));
 }
 
