@@ -73,6 +73,16 @@ std::span<const Subcomando> Subcomandos() {
          "sobrescribe F.txt si ya existe.",
          {{"formato", "salida"}, {}},
          &TextoCmd},
+        {"aciertos",
+         "aciertos ORIGEN --ganadora \"14 signos\" --pleno H-A [--avance] [--columnas] [--json] "
+         "[--jornada N] [--anio AAAA]",
+         "Las columnas con 15 a 9 aciertos de una Combinación (.uxd, su conjunto jugado), un "
+         "archivo oficial JSON (--jornada y --anio de la Jornada) o un AD243 (--jornada); se "
+         "distinguen por el contenido. Con --columnas, dónde están (Boleto, Columna, Aciertos). "
+         "Con --avance, la comprobación en marcha de una Combinación: \"-\" por cada partido "
+         "que no se sabe. Las preguntas se contestan Sí; los mensajes salen por stderr.",
+         {{"ganadora", "pleno", "jornada", "anio"}, {"avance", "columnas"}},
+         &AciertosCmd},
     };
     return subcomandos;
 }

@@ -33,5 +33,6 @@ int AjustarCmd(const Argumentos& argumentos, std::ostream& salida);
 int EliminarCmd(const Argumentos& argumentos, std::ostream& salida);
 int JugarTodasCmd(const Argumentos& argumentos, std::ostream& salida);
 int TextoCmd(const Argumentos& argumentos, std::ostream& salida);
+int AciertosCmd(const Argumentos& argumentos, std::ostream& salida);
 
 }  // namespace quinteva::cli
