@@ -31,6 +31,19 @@ std::span<const Subcomando> Subcomandos() {
          "Las condiciones que no cumple una columna, una por línea (Condición, tabulador, Filtro).",
          {{"columna"}, {}},
          &Analizar},
+        {"reducir",
+         "reducir RUTA.uxd --al 13|12|11 [--partidos 2,5,9] [--carpeta DIR] [--json]",
+         "Reduce las columnas generadas como \"&Reducir\" (por tablas sin condiciones, si no por "
+         "recubrimiento; --partidos elige los partidos de la reducción por tablas), guarda y "
+         "muestra la cuenta.",
+         {{"al", "partidos"}, {}},
+         &ReducirCmd},
+        {"tablas",
+         "tablas [--json] | tablas --sistema NIVEL TRIPLES DOBLES",
+         "Las 73 filas de la Tabla de reducciones (\"*\": en negrita), o las filas de un sistema "
+         "reducido, una por línea.",
+         {{}, {"sistema"}},
+         &Tablas},
         {"oficial",
          "oficial RUTA.uxd --receptor NNNNN --jornada N --salida DIR/NOMBRE [--anio AAAA]",
          "Escribe DIR/NOMBRE.json, el archivo oficial de apuestas del juego jugado de la "

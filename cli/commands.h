@@ -26,6 +26,8 @@ int Nueva(const Argumentos& argumentos, std::ostream& salida);
 int Info(const Argumentos& argumentos, std::ostream& salida);
 int GenerarCmd(const Argumentos& argumentos, std::ostream& salida);
 int Analizar(const Argumentos& argumentos, std::ostream& salida);
+int ReducirCmd(const Argumentos& argumentos, std::ostream& salida);
+int Tablas(const Argumentos& argumentos, std::ostream& salida);
 int Oficial(const Argumentos& argumentos, std::ostream& salida);
 int JsonLeer(const Argumentos& argumentos, std::ostream& salida);
 int JsonModificar(const Argumentos& argumentos, std::ostream& salida);

@@ -1,0 +1,79 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "base/record_files.h"
+#include "engine/combination.h"
+#include "engine/cover.h"
+#include "engine/generation.h"
+#include "engine/reduction.h"
+#include "tests/support/memory_settings.h"
+#include "tests/support/temp_folder.h"
+
+namespace quinteva::pruebas {
+
+// Una Combinación sin condiciones con T triples y D dobles "1X" (los primeros partidos) y fijos
+// "1", desarrollada entera en "Cmb.tmp" de una carpeta propia.
+struct Desarrollo {
+    CarpetaTemporal carpeta;
+    AjustesEnMemoria ajustes;
+    engine::Combinacion combinacion;
+
+    Desarrollo(int triples, int dobles, const std::string& dobleSignos = "1X") {
+        for (int p = 1; p <= engine::kPartidos; ++p) {
+            const bool triple = p <= triples;
+            const bool doble = !triple && p <= triples + dobles;
+            for (int s = 0; s < 3; ++s) {
+                const char signo = engine::kSignos[static_cast<std::size_t>(s)];
+                combinacion.base.Elegir(
+                    p, s,
+                    triple || (doble && dobleSignos.find(signo) != std::string::npos) ||
+                        (!triple && !doble && s == 0));
+            }
+        }
+        combinacion.base.PonerGoles("1", "0");
+        combinacion.pleno = combinacion.base.Pleno();
+        base::SinProgreso progreso;
+        engine::Generar(combinacion, carpeta.Ruta(), progreso, ajustes);
+    }
+
+    std::vector<engine::RegistroColumna> Leer(std::string_view nombre) const {
+        std::vector<engine::RegistroColumna> registros;
+        if (!std::filesystem::exists(carpeta / std::string(nombre))) return registros;
+        const base::ArchivoDe<engine::RegistroColumna> archivo(carpeta / std::string(nombre));
+        for (std::int32_t n = 1; n <= archivo.Cuenta(); ++n) registros.push_back(archivo.Leer(n));
+        return registros;
+    }
+};
+
+// Verdadero si cada columna desarrollada está a "radio" o menos de alguna reducida: se marcan
+// los códigos de las reducidas y se mira el entorno de cada desarrollada.
+inline bool Cubre(const std::vector<engine::RegistroColumna>& reducidas,
+                  const std::vector<engine::RegistroColumna>& desarrolladas, int radio) {
+    std::vector<bool> guardada(engine::kCodigosColumna, false);
+    for (const auto& r : reducidas) {
+        guardada[static_cast<std::size_t>(engine::CodigoColumna(r.columna))] = true;
+    }
+    const auto cerca = [&](auto&& self, engine::Columna c, int desde, int quedan) -> bool {
+        if (guardada[static_cast<std::size_t>(engine::CodigoColumna(c))]) return true;
+        if (quedan == 0) return false;
+        for (int p = desde; p < engine::kPartidos; ++p) {
+            const char propio = c[static_cast<std::size_t>(p)];
+            for (const char otro : engine::kSignos) {
+                if (otro == propio) continue;
+                c[static_cast<std::size_t>(p)] = otro;
+                if (self(self, c, p + 1, quedan - 1)) return true;
+                c[static_cast<std::size_t>(p)] = propio;
+            }
+        }
+        return false;
+    };
+    for (const auto& d : desarrolladas) {
+        if (!cerca(cerca, d.columna, 0, radio)) return false;
+    }
+    return true;
+}
+
+}  // namespace quinteva::pruebas

@@ -1,0 +1,101 @@
+#include <gtest/gtest.h>
+
+#include "builders/reduction_display.h"
+#include "engine/combination_files.h"
+#include "tests/cli/cli_runner.h"
+#include "tests/support/temp_folder.h"
+
+namespace quinteva::pruebas {
+namespace {
+
+std::string Q(const std::filesystem::path& p) { return "'" + p.string() + "'"; }
+
+struct Quiniela {
+    CarpetaTemporal carpeta;
+    std::filesystem::path uxd = carpeta / "J7.uxd";
+    std::string trabajo = " --carpeta " + Q(carpeta / "trabajo");
+
+    explicit Quiniela(const std::string& base) {
+        const Salida s =
+            EjecutarCli("nueva " + Q(uxd) + " --base \"" + base + "\" --pleno 1-0" + trabajo);
+        EXPECT_EQ(s.codigo, 0) << s.errores;
+    }
+};
+
+TEST(CliReducir, SieteDoblesAlTrecePorTablas) {
+    Quiniela q("1X 1X 1X 1X 1X 1X 1X 1 1 1 1 1 1 1");
+    ASSERT_EQ(EjecutarCli("generar " + Q(q.uxd) + q.trabajo).codigo, 0);
+    const Salida s = EjecutarCli("reducir " + Q(q.uxd) + " --al 13" + q.trabajo);
+    ASSERT_EQ(s.codigo, 0) << s.errores;
+    EXPECT_EQ(s.salida, "Reducida al 13: 16\n");
+    EXPECT_EQ(std::filesystem::file_size(q.carpeta / "J7.red"), 16U * 17U);
+    const Salida j = EjecutarCli("reducir " + Q(q.uxd) + " --al 12 --json" + q.trabajo);
+    EXPECT_EQ(j.salida,
+              "{\"NivelReducida\": 1, \"TotalReducidas\": 8, \"SinSistema\": false, "
+              "\"PorTablas\": true}\n");
+}
+
+TEST(CliReducir, ConPartidosElegidos) {
+    Quiniela q("1X 1X 1X 1X 1X 1X 1X 1X 1 1 1 1 1 1");
+    ASSERT_EQ(EjecutarCli("generar " + Q(q.uxd) + q.trabajo).codigo, 0);
+    // Solo tres dobles en la reducción: sistema de 2 filas y los otros cinco dobles libres.
+    const Salida s = EjecutarCli("reducir " + Q(q.uxd) + " --al 13 --partidos 1,2,3" + q.trabajo);
+    ASSERT_EQ(s.codigo, 0) << s.errores;
+    EXPECT_EQ(s.salida, "Reducida al 13: 64\n");
+}
+
+TEST(CliReducir, SinSistemaLoDice) {
+    Quiniela q("1X 1X 1 1 1 1 1 1 1 1 1 1 1 1");
+    ASSERT_EQ(EjecutarCli("generar " + Q(q.uxd) + q.trabajo).codigo, 0);
+    const Salida s = EjecutarCli("reducir " + Q(q.uxd) + " --al 13" + q.trabajo);
+    EXPECT_EQ(s.codigo, 0);
+    EXPECT_EQ(s.salida, "No hay reducción por tablas para esta base al 13\n");
+}
+
+TEST(CliReducir, SinGenerarEsUnErrorYNoCambiaNada) {
+    Quiniela q("1X2 1X2 1 1 1 1 1 1 1 1 1 1 1 1");
+    const auto antes = std::filesystem::last_write_time(q.uxd);
+    const Salida s = EjecutarCli("reducir " + Q(q.uxd) + " --al 12" + q.trabajo);
+    EXPECT_EQ(s.codigo, 1);
+    EXPECT_NE(s.errores.find("no tiene columnas generadas"), std::string::npos) << s.errores;
+    EXPECT_EQ(std::filesystem::last_write_time(q.uxd), antes);
+    EXPECT_FALSE(std::filesystem::exists(q.carpeta / "J7.red"));
+}
+
+TEST(CliReducir, SinCarpetaNoTocaLosAlmacenesDelUsuario) {
+    Quiniela q("1X 1X 1X 1X 1X 1X 1X 1 1 1 1 1 1 1");
+    ASSERT_EQ(EjecutarCli("generar " + Q(q.uxd) + q.trabajo).codigo, 0);
+    CarpetaTemporal usuario;
+    const Salida s =
+        EjecutarCli("reducir " + Q(q.uxd) + " --al 13", "QUINTEVA_CARPETA=" + Q(usuario.Ruta()));
+    ASSERT_EQ(s.codigo, 0) << s.errores;
+    EXPECT_FALSE(std::filesystem::exists(usuario / "Cmb.tmp"));
+    EXPECT_FALSE(std::filesystem::exists(usuario / "Red.tmp"));
+}
+
+TEST(CliReducir, OpcionesMalas) {
+    EXPECT_EQ(EjecutarCli("reducir x.uxd").codigo, 2);
+    EXPECT_EQ(EjecutarCli("reducir x.uxd --al 10").codigo, 2);
+    EXPECT_EQ(EjecutarCli("reducir x.uxd --al 13 --partidos 3,15").codigo, 2);
+}
+
+TEST(CliTablas, LasSetentaYTresFilas) {
+    const Salida s = EjecutarCli("tablas");
+    ASSERT_EQ(s.codigo, 0);
+    EXPECT_EQ(std::count(s.salida.begin(), s.salida.end(), '\n'), 73);
+    EXPECT_TRUE(s.salida.starts_with("3 Dobles\t2*\t-\t-\n")) << s.salida.substr(0, 40);
+    EXPECT_NE(s.salida.find("1 Triples y 4 Dobles\t8*\t3*\t-\n"), std::string::npos);
+    const Salida j = EjecutarCli("tablas --json");
+    EXPECT_NE(j.salida.find("{\"Combinaciones\": \"11 Triples\", \"Triples\": 11"),
+              std::string::npos);
+}
+
+TEST(CliTablas, LasFilasDeUnSistema) {
+    const Salida s = EjecutarCli("tablas --sistema 13 0 3");
+    EXPECT_EQ(s.codigo, 0);
+    EXPECT_TRUE(s.salida == "1X1\nX1X\n" || s.salida == "X1X\n1X1\n") << s.salida;
+    EXPECT_EQ(EjecutarCli("tablas --sistema 13 0 2").codigo, 1);
+}
+
+}  // namespace
+}  // namespace quinteva::pruebas

@@ -1,0 +1,55 @@
+// Escribe los sistemas reducidos del programa: cada uno se construye con su receta, se comprueba
+// que no repite filas y que cubre todo su espacio con su radio (palabra a palabra), se completa
+// hasta las filas que muestra el programa con palabras distintas y se escribe en el formato
+// "sistema NIVEL TRIPLES DOBLES FILAS" seguido de sus filas.
+//
+// Uso: sistemas_reducidos data/sistemas_reducidos.txt
+#include <fstream>
+#include <iostream>
+#include <stdexcept>
+
+#include "recetas.h"
+
+namespace {
+
+using namespace sistemas;
+
+Codigo Construir(const Sistema& s) {
+    Codigo c = s.receta();
+    const int radio = 14 - s.nivel;
+    if (c.espacio.Triples() != s.triples || c.espacio.Dobles() != s.dobles) {
+        throw std::runtime_error("la receta da otro espacio");
+    }
+    if (!SinRepetidas(c)) throw std::runtime_error("filas repetidas");
+    if (!NoCubiertas(c, radio).empty()) throw std::runtime_error("no cubre su espacio");
+    if (c.filas.size() > static_cast<std::size_t>(s.filas)) {
+        std::cerr << "  aviso: " << c.filas.size() << " filas, más de las " << s.filas
+                  << " que muestra el programa\n";
+        return c;
+    }
+    return Rellenar(std::move(c), static_cast<std::size_t>(s.filas));
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    if (argc != 2) {
+        std::cerr << "Uso: sistemas_reducidos SALIDA\n";
+        return 2;
+    }
+    std::ofstream salida(argv[1], std::ios::binary);
+    salida << "# Los sistemas reducidos: los escribe tools/sistemas_reducidos.\n";
+    for (const Sistema& s : Sistemas()) {
+        std::cerr << "sistema " << s.nivel << " " << s.triples << "+" << s.dobles << "\n";
+        try {
+            const Codigo c = Construir(s);
+            salida << "sistema " << s.nivel << " " << s.triples << " " << s.dobles << " "
+                   << c.filas.size() << "\n";
+            for (const Palabra& f : c.filas) salida << ATexto(f) << "\n";
+        } catch (const std::exception& e) {
+            std::cerr << "  " << e.what() << "\n";
+            return 1;
+        }
+    }
+    return salida ? 0 : 1;
+}

@@ -1,0 +1,139 @@
+#include "recetas.h"
+
+#include <array>
+#include <map>
+#include <stdexcept>
+#include <string>
+
+#include "golay.h"
+#include "tabu.h"
+
+namespace sistemas {
+namespace {
+
+// Pasos de la búsqueda tabú: sobran para cada código de la tabla; la semilla es siempre 1, así
+// que la herramienta escribe siempre las mismas filas.
+constexpr std::int64_t kPasos = 3'000'000;
+
+Receta Filas(int triples, int dobles, std::vector<std::string> filas) {
+    return [=] {
+        Codigo c{Espacio(triples, dobles), {}};
+        for (const auto& f : filas) c.filas.push_back(DeTexto(f));
+        return c;
+    };
+}
+
+// Varios sistemas usan el mismo código de la búsqueda: se busca una vez.
+Receta Tabu(int triples, int dobles, int radio, int filas) {
+    return [=] {
+        static std::map<std::array<int, 4>, Codigo> hallados;
+        const std::array<int, 4> clave{triples, dobles, radio, filas};
+        if (const auto h = hallados.find(clave); h != hallados.end()) return h->second;
+        auto c = BuscarTabu(Espacio(triples, dobles), radio, filas, 1, kPasos);
+        if (!c) {
+            throw std::runtime_error("la búsqueda no llegó a " + std::to_string(filas) + " filas");
+        }
+        return hallados.emplace(clave, *c).first->second;
+    };
+}
+
+Receta Todo(int triples, int dobles) {
+    return [=] { return sistemas::Todo(Espacio(triples, dobles)); };
+}
+
+Receta GolayTernario() {
+    return [] { return Golay(); };
+}
+
+Receta Suma(Receta a, Receta b) {
+    return [=] { return SumaDirecta(a(), b()); };
+}
+
+// Suma amalgamada sobre el lugar la de a y lb de b, completada si hiciera falta.
+Receta Amalgamada(Receta a, int la, Receta b, int lb, int radio) {
+    return [=] { return Completar(Amalgama(a(), la, b(), lb, {0, 1, 2}), radio); };
+}
+
+}  // namespace
+
+std::vector<Sistema> Sistemas() {
+    // clang-format off
+    return {
+        {13, 0, 3, 2, Filas(0, 3, {"1X1", "X1X"})},
+        {13, 0, 6, 12, Tabu(0, 6, 1, 12)},
+        {13, 0, 7, 16, Tabu(0, 7, 1, 16)},
+        {13, 1, 2, 3, Filas(1, 2, {"21X", "1X1", "XX1"})},
+        {13, 1, 4, 8, Tabu(1, 4, 1, 8)},
+        {13, 1, 6, 24, Tabu(1, 6, 1, 24)},
+        {13, 2, 2, 6, Tabu(2, 2, 1, 6)},
+        {13, 2, 5, 36, Tabu(2, 5, 1, 36)},
+        {13, 2, 7, 128, Suma(Todo(0, 1), Tabu(2, 6, 1, 64))},
+        {13, 3, 0, 5, Filas(3, 0, {"1X2", "X11", "221", "X2X", "21X"})},
+        {13, 3, 3, 24, Tabu(3, 3, 1, 24)},
+        {13, 4, 0, 9, Tabu(4, 0, 1, 9)},
+        {12, 0, 5, 2, Filas(0, 5, {"1X1X1", "X1X1X"})},
+        {12, 0, 9, 16, Tabu(0, 9, 2, 16)},
+        {12, 1, 4, 3, Tabu(1, 4, 2, 3)},
+        {12, 1, 6, 8, Tabu(1, 6, 2, 8)},
+        {12, 1, 8, 24, Tabu(1, 8, 2, 24)},
+        {12, 2, 2, 3, Tabu(2, 2, 2, 3)},
+        {12, 2, 3, 4, Tabu(2, 3, 2, 4)},
+        {12, 2, 5, 12, Tabu(2, 5, 2, 12)},
+        {12, 2, 6, 19, Tabu(2, 6, 2, 19)},
+        {12, 3, 1, 3, Tabu(3, 1, 2, 3)},
+        {12, 3, 4, 13, Tabu(3, 4, 2, 13)},
+        {12, 3, 7, 60, Suma(Tabu(0, 7, 1, 16), Tabu(3, 0, 1, 5))},
+        {12, 4, 0, 3, Tabu(4, 0, 2, 3)},
+        {12, 4, 3, 18, Tabu(4, 3, 2, 18)},
+        {12, 4, 4, 24, Tabu(4, 4, 2, 24)},
+        {12, 4, 7, 144, Suma(Tabu(0, 7, 1, 16), Tabu(4, 0, 1, 9))},
+        {12, 6, 0, 18, Tabu(6, 0, 2, 18)},
+        {12, 6, 2, 48, Tabu(6, 2, 2, 48)},
+        {12, 6, 3, 72, Suma(Todo(0, 1), Tabu(6, 2, 2, 48))},
+        {12, 7, 0, 45, Tabu(7, 0, 2, 45)},
+        {12, 8, 0, 81, Suma(Tabu(4, 0, 1, 9), Tabu(4, 0, 1, 9))},
+        {12, 11, 0, 729, GolayTernario()},
+        {11, 0, 7, 2, Filas(0, 7, {"X111111", "1XXXXXX"})},
+        {11, 0, 9, 7, Tabu(0, 9, 3, 7)},
+        {11, 0, 11, 16, Tabu(0, 11, 3, 16)},
+        {11, 1, 6, 3, Tabu(1, 6, 3, 3)},
+        {11, 1, 8, 8, Tabu(1, 8, 3, 8)},
+        {11, 1, 10, 20, Tabu(1, 10, 3, 20)},
+        {11, 2, 4, 3, Tabu(2, 4, 3, 3)},
+        {11, 2, 6, 6, Amalgamada(Tabu(0, 3, 1, 2), 0, Tabu(2, 4, 2, 6), 2, 3)},
+        {11, 2, 8, 16, Tabu(2, 8, 3, 16)},
+        {11, 2, 9, 24, Suma(Todo(0, 1), Tabu(2, 8, 3, 16))},
+        {11, 3, 3, 3, Tabu(3, 3, 3, 3)},
+        {11, 3, 5, 8, Tabu(3, 5, 3, 8)},
+        {11, 3, 6, 12, Tabu(3, 6, 3, 12)},
+        {11, 3, 8, 32, Suma(Tabu(0, 3, 1, 2), Tabu(3, 5, 2, 23))},
+        {11, 4, 1, 3, Tabu(4, 1, 3, 3)},
+        {11, 4, 3, 6, Tabu(4, 3, 3, 6)},
+        {11, 4, 5, 16, Tabu(4, 5, 3, 16)},
+        {11, 4, 6, 24, Amalgamada(Tabu(0, 3, 1, 2), 0, Tabu(4, 4, 2, 24), 4, 3)},
+        {11, 4, 8, 68, Suma(Todo(0, 1), Suma(Tabu(0, 3, 1, 2), Tabu(4, 4, 2, 24)))},
+        {11, 5, 0, 3, Tabu(5, 0, 3, 3)},
+        {11, 5, 2, 7, Tabu(5, 2, 3, 7)},
+        {11, 5, 3, 12, Tabu(5, 3, 3, 12)},
+        {11, 5, 5, 32, Suma(Tabu(0, 3, 1, 2), Tabu(5, 2, 2, 22))},
+        {11, 5, 7, 90, Suma(Tabu(1, 7, 2, 12), Tabu(4, 0, 1, 9))},
+        {11, 6, 0, 6, Tabu(6, 0, 3, 6)},
+        {11, 6, 2, 16, Amalgamada(Tabu(3, 2, 1, 16), 1, Tabu(4, 0, 2, 3), 0, 3)},
+        {11, 6, 3, 24, Suma(Tabu(0, 3, 1, 2), Tabu(6, 0, 2, 17))},
+        {11, 6, 5, 72, Amalgamada(Tabu(2, 2, 1, 6), 2, Tabu(4, 4, 2, 24), 4, 3)},
+        {11, 6, 6, 96, Suma(Tabu(2, 2, 1, 6), Tabu(4, 4, 2, 24))},
+        {11, 7, 0, 12, Tabu(7, 0, 3, 12)},
+        {11, 7, 1, 18, Amalgamada(Tabu(4, 1, 1, 18), 0, Tabu(4, 0, 2, 3), 0, 3)},
+        {11, 7, 3, 54, Suma(Tabu(2, 2, 1, 6), Tabu(5, 1, 2, 12))},
+        {11, 7, 5, 144, Amalgamada(Tabu(4, 1, 1, 18), 0, Tabu(4, 4, 2, 24), 0, 3)},
+        {11, 8, 0, 27, Suma(Tabu(4, 0, 1, 9), Filas(4, 0, {"1111", "XXXX", "2222"}))},
+        {11, 8, 2, 72, Suma(Tabu(4, 0, 1, 9), Tabu(4, 2, 2, 10))},
+        {11, 8, 3, 108, Suma(Tabu(0, 3, 1, 2), Suma(Tabu(4, 0, 1, 9), Tabu(4, 0, 1, 9)))},
+        {11, 9, 0, 54, Suma(Tabu(4, 0, 1, 9), Tabu(5, 0, 2, 8))},
+        {11, 9, 2, 144, Suma(Tabu(4, 0, 1, 9), Tabu(5, 2, 2, 22))},
+        {11, 10, 0, 108, Suma(Tabu(4, 0, 1, 9), Tabu(6, 0, 2, 17))},
+    };
+    // clang-format on
+}
+
+}  // namespace sistemas
