@@ -10,6 +10,7 @@
 #include "base/working_folder.h"
 #include "ui/dialog_qt.h"
 #include "ui/main_window.h"
+#include "ui/program_reducer.h"
 #include "ui/settings_qt.h"
 #include "ui/working_folder_qt.h"
 
@@ -59,7 +60,8 @@ int main(int argc, char** argv) {
     }
     quinteva::ui::AjustesQt ajustes(carpeta);
     const std::filesystem::path programa = QApplication::applicationDirPath().toStdString();
-    quinteva::ui::VentanaPrincipal ventana({carpeta, programa, ajustes, dialogo});
+    quinteva::ui::ReductorDelPrograma reductor;
+    quinteva::ui::VentanaPrincipal ventana({carpeta, programa, ajustes, dialogo, &reductor});
     dialogo.FijarMadre(&ventana);
     const QStringList argumentos = QApplication::arguments();
     std::optional<std::filesystem::path> archivo;

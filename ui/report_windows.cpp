@@ -8,6 +8,8 @@
 #include <QTableWidget>
 #include <QVBoxLayout>
 
+#include "builders/reduction_display.h"
+
 namespace quinteva::ui {
 namespace {
 
@@ -79,9 +81,10 @@ VentanaTablaReducciones::VentanaTablaReducciones(const std::vector<FilaTablaRedu
     setObjectName(QStringLiteral("VentanaTablaReducciones"));
     setWindowTitle(QStringLiteral("Tabla de reducciones"));
     auto* caja = new QVBoxLayout(this);
-    auto* titulo = new QLabel(QStringLiteral("Tabla de Reducciones que se utiliza si no hay "
-                                             "Condiciones (en negrita reducciones óptimas)"),
-                              this);
+    auto* titulo = new QLabel(
+        QString::fromUtf8(builders::kTituloTablaReducciones.data(),
+                          static_cast<qsizetype>(builders::kTituloTablaReducciones.size())),
+        this);
     titulo->setWordWrap(true);
     caja->addWidget(titulo);
     auto* cabecera = new QLabel(QStringLiteral("Nº de apuestas reducidas"), this);

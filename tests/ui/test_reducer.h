@@ -3,17 +3,16 @@
 #include <fstream>
 #include <vector>
 
-#include "base/formats.h"
 #include "base/record_files.h"
 #include "engine/columns.h"
-#include "ui/reduction_seam.h"
+#include "ui/program_reducer.h"
 
 namespace quinteva::pruebas {
 
 // Reducción de prueba para la ventana: la cobertura voraz literal (la primera columna pendiente
-// se queda y se llevan las que están a la distancia del nivel), sobre "Cmb.tmp" hacia "Red.tmp".
-// La de verdad la pone la reducción; aquí basta con una que cumpla la garantía.
-class ReductorDePrueba : public ui::Reductor {
+// se queda y se llevan las que están a la distancia del nivel), sobre "Cmb.tmp" hacia "Red.tmp",
+// sea cual sea la base; la tabla y el informe son los del programa.
+class ReductorDePrueba : public ui::ReductorDelPrograma {
   public:
     void Reducir(engine::Combinacion& comb, const ui::PeticionReduccion& peticion,
                  const std::filesystem::path& carpeta, base::Progreso& progreso,
@@ -45,17 +44,6 @@ class ReductorDePrueba : public ui::Reductor {
         comb.panel.reducidas[static_cast<std::size_t>(peticion.nivel)] = comb.activasReducidas;
         comb.nivelReducida = static_cast<std::uint8_t>(peticion.nivel);
         ++reducciones;
-    }
-
-    std::vector<ui::FilaTablaReducciones> TablaReducciones() const override {
-        return {{"3 Dobles", {{{"2", true}, {"-", false}, {"-", false}}}, 0, 3},
-                {"1 Triple y 10 Dobles", {{{"384", false}, {"96", false}, {"20", true}}}, 1, 10},
-                {"11 Triples", {{{"19683", false}, {"729", true}, {"324", false}}}, 11, 0}};
-    }
-
-    ui::InformeReduccion Informe(std::int32_t reducidas, double total) const override {
-        const double p = total > 0 ? 100.0 * reducidas / total : 0.0;
-        return {base::Formato(100.0 - p, "0.#0") + "%", base::Formato(p, "0.#0") + "%"};
     }
 
     int reducciones = 0;

@@ -2,6 +2,7 @@
 
 #include <QComboBox>
 #include <QHeaderView>
+#include <QLabel>
 #include <QPushButton>
 #include <QTableWidget>
 #include <QtTest>
@@ -52,6 +53,11 @@ T* Hijo(QObject& madre, const QString& nombre) {
     T* hijo = madre.findChild<T*>(nombre);
     if (hijo == nullptr) qFatal("Falta %s", qPrintable(nombre));
     return hijo;
+}
+
+// El texto de una etiqueta hija.
+inline QString TextoDe(QObject& madre, const char* nombre) {
+    return Hijo<QLabel>(madre, QString::fromUtf8(nombre))->text();
 }
 
 // Un clic de verdad en el centro de una celda.

@@ -10,7 +10,8 @@ namespace {
 std::vector<char> Cubiertas(const Codigo& c, int radio) {
     std::vector<char> cubierta(static_cast<std::size_t>(c.espacio.Palabras()), 0);
     for (const Palabra& f : c.filas) {
-        c.espacio.Bola(f, radio, [&](std::int64_t i) { cubierta[static_cast<std::size_t>(i)] = 1; });
+        c.espacio.Bola(f, radio,
+                       [&](std::int64_t i) { cubierta[static_cast<std::size_t>(i)] = 1; });
     }
     return cubierta;
 }
@@ -56,9 +57,9 @@ Codigo Todo(const Espacio& e) {
 Codigo UnaPalabra(const Espacio& e) { return {e, {e.DeIndice(0)}}; }
 
 Codigo SumaDirecta(const Codigo& a, const Codigo& b) {
-    Codigo c{Espacio(a.espacio.Triples() + b.espacio.Triples(),
-                     a.espacio.Dobles() + b.espacio.Dobles()),
-             {}};
+    Codigo c{
+        Espacio(a.espacio.Triples() + b.espacio.Triples(), a.espacio.Dobles() + b.espacio.Dobles()),
+        {}};
     for (const Palabra& x : a.filas) {
         for (const Palabra& y : b.filas) {
             Palabra p = Triples(a, x);
@@ -80,7 +81,8 @@ Codigo Amalgama(const Codigo& a, int la, const Codigo& b, int lb,
              {}};
     for (const Palabra& x : a.filas) {
         for (const Palabra& y : b.filas) {
-            if (x[static_cast<std::size_t>(la)] != cambio[y[static_cast<std::size_t>(lb)]]) continue;
+            if (x[static_cast<std::size_t>(la)] != cambio[y[static_cast<std::size_t>(lb)]])
+                continue;
             Palabra p = Triples(a, x);
             Anadir(p, triple ? SinLugar(Triples(b, y), lbParte) : Triples(b, y));
             Anadir(p, Dobles(a, x));
@@ -98,9 +100,8 @@ Codigo Completar(Codigo c, int radio) {
         for (std::int64_t f : faltan) {
             c.espacio.Bola(c.espacio.DeIndice(f), radio, [&](std::int64_t i) { ++cuenta[i]; });
         }
-        const auto mejor = std::max_element(cuenta.begin(), cuenta.end(), [](auto& x, auto& y) {
-            return x.second < y.second;
-        });
+        const auto mejor = std::max_element(cuenta.begin(), cuenta.end(),
+                                            [](auto& x, auto& y) { return x.second < y.second; });
         const Palabra nueva = c.espacio.DeIndice(mejor->first);
         std::set<std::int64_t> ahora;
         c.espacio.Bola(nueva, radio, [&](std::int64_t i) { ahora.insert(i); });

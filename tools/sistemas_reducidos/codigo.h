@@ -28,7 +28,8 @@ Codigo SumaDirecta(const Codigo& a, const Codigo& b);
 
 // Suma amalgamada: filas de a y de b que coinciden en el lugar la de a y lb de b (los dos triples
 // o los dos dobles), que se funden en uno; el símbolo s de b en ese lugar se lee como cambio[s].
-Codigo Amalgama(const Codigo& a, int la, const Codigo& b, int lb, std::array<std::uint8_t, 3> cambio);
+Codigo Amalgama(const Codigo& a, int la, const Codigo& b, int lb,
+                std::array<std::uint8_t, 3> cambio);
 
 // Añade con avidez la palabra que cubre más palabras sin cubrir hasta cubrir todo el espacio.
 Codigo Completar(Codigo c, int radio);

@@ -12,7 +12,7 @@ namespace sistemas {
 using Palabra = std::vector<std::uint8_t>;
 
 class Espacio {
-public:
+  public:
     Espacio(int triples, int dobles);
 
     int Triples() const { return triples_; }
@@ -30,7 +30,7 @@ public:
         Recorrer(p, Indice(p), 0, radio, f);
     }
 
-private:
+  private:
     template <class F>
     void Recorrer(const Palabra& p, std::int64_t i, int desde, int radio, F& f) const {
         f(i);
@@ -38,7 +38,9 @@ private:
         for (int l = desde; l < Lugares(); ++l) {
             for (int d = 1; d < Base(l); ++d) {
                 const int nueva = (p[static_cast<std::size_t>(l)] + d) % Base(l);
-                Recorrer(p, i + (nueva - p[static_cast<std::size_t>(l)]) * pesos_[static_cast<std::size_t>(l)],
+                Recorrer(p,
+                         i + (nueva - p[static_cast<std::size_t>(l)]) *
+                                 pesos_[static_cast<std::size_t>(l)],
                          l + 1, radio - 1, f);
             }
         }

@@ -9,9 +9,11 @@ namespace {
 
 // Cuántas filas cubren cada palabra y la lista de las que no cubre ninguna.
 class Cobertura {
-public:
+  public:
     Cobertura(const Espacio& e, int radio)
-        : e_(e), radio_(radio), cuenta_(static_cast<std::size_t>(e.Palabras()), 0),
+        : e_(e),
+          radio_(radio),
+          cuenta_(static_cast<std::size_t>(e.Palabras()), 0),
           posicion_(static_cast<std::size_t>(e.Palabras())) {
         for (std::int64_t x = 0; x < e.Palabras(); ++x) {
             posicion_[static_cast<std::size_t>(x)] = static_cast<std::int64_t>(sinCubrir_.size());
@@ -51,7 +53,7 @@ public:
 
     const std::vector<std::int64_t>& SinCubrir() const { return sinCubrir_; }
 
-private:
+  private:
     const Espacio& e_;
     int radio_;
     std::vector<int> cuenta_;
@@ -78,8 +80,9 @@ std::optional<Codigo> BuscarTabu(const Espacio& e, int radio, int filas, std::ui
         c = static_cast<std::int64_t>(azar() % static_cast<std::uint64_t>(e.Palabras()));
         cobertura.Marcar(c, 1);
     }
-    std::vector<std::vector<std::int64_t>> tabu(static_cast<std::size_t>(filas),
-                                                std::vector<std::int64_t>(static_cast<std::size_t>(lugares), -1));
+    std::vector<std::vector<std::int64_t>> tabu(
+        static_cast<std::size_t>(filas),
+        std::vector<std::int64_t>(static_cast<std::size_t>(lugares), -1));
     std::size_t mejor = SIZE_MAX;
     const auto desplazar = [&](std::int64_t x, int lugar, int valor) {
         const Palabra p = e.DeIndice(x);
@@ -104,10 +107,13 @@ std::optional<Codigo> BuscarTabu(const Espacio& e, int radio, int filas, std::ui
                 const auto il = static_cast<std::size_t>(l);
                 if (c[il] == u[il]) continue;
                 const bool prohibido = tabu[static_cast<std::size_t>(i)][il] >= paso;
-                const std::int64_t destino = desplazar(codigo[static_cast<std::size_t>(i)], l, u[il]);
-                const std::int64_t cambio = cobertura.Cambio(codigo[static_cast<std::size_t>(i)], destino);
-                if (prohibido && !(static_cast<std::int64_t>(cobertura.SinCubrir().size()) + cambio <
-                                   static_cast<std::int64_t>(mejor))) {
+                const std::int64_t destino =
+                    desplazar(codigo[static_cast<std::size_t>(i)], l, u[il]);
+                const std::int64_t cambio =
+                    cobertura.Cambio(codigo[static_cast<std::size_t>(i)], destino);
+                if (prohibido &&
+                    !(static_cast<std::int64_t>(cobertura.SinCubrir().size()) + cambio <
+                      static_cast<std::int64_t>(mejor))) {
                     continue;
                 }
                 if (cambio < mejorCambio) {
@@ -123,11 +129,13 @@ std::optional<Codigo> BuscarTabu(const Espacio& e, int radio, int filas, std::ui
             const Palabra c = e.DeIndice(codigo[static_cast<std::size_t>(i)]);
             std::vector<int> distintos;
             for (int l = 0; l < lugares; ++l) {
-                if (c[static_cast<std::size_t>(l)] != u[static_cast<std::size_t>(l)]) distintos.push_back(l);
+                if (c[static_cast<std::size_t>(l)] != u[static_cast<std::size_t>(l)])
+                    distintos.push_back(l);
             }
             if (distintos.empty()) continue;
             const int l = distintos[azar() % distintos.size()];
-            const std::int64_t destino = desplazar(codigo[static_cast<std::size_t>(i)], l, u[static_cast<std::size_t>(l)]);
+            const std::int64_t destino =
+                desplazar(codigo[static_cast<std::size_t>(i)], l, u[static_cast<std::size_t>(l)]);
             cobertura.Marcar(codigo[static_cast<std::size_t>(i)], -1);
             cobertura.Marcar(destino, 1);
             codigo[static_cast<std::size_t>(i)] = destino;
@@ -138,7 +146,8 @@ std::optional<Codigo> BuscarTabu(const Espacio& e, int radio, int filas, std::ui
         cobertura.Marcar(codigo[static_cast<std::size_t>(m.fila)], -1);
         cobertura.Marcar(m.destino, 1);
         codigo[static_cast<std::size_t>(m.fila)] = m.destino;
-        tabu[static_cast<std::size_t>(m.fila)][static_cast<std::size_t>(m.lugar)] = paso + permanencia;
+        tabu[static_cast<std::size_t>(m.fila)][static_cast<std::size_t>(m.lugar)] =
+            paso + permanencia;
         mejor = std::min(mejor, cobertura.SinCubrir().size());
     }
     if (!cobertura.SinCubrir().empty()) return std::nullopt;
