@@ -12,6 +12,8 @@ class Progreso {
     virtual ~Progreso() = default;
     virtual void Avance(std::int64_t hecho, std::int64_t total) = 0;
     virtual bool Detenido() const = 0;
+    // Lo que el trabajo lleva escrito (las columnas que pasan), para la cuenta en marcha.
+    virtual void Escritas(std::int64_t /*escritas*/) {}
 };
 
 // Para quien no muestra nada y nunca para.

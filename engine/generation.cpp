@@ -154,6 +154,7 @@ ResultadoGeneracion Generar(Combinacion& comb, const std::filesystem::path& carp
         const std::int64_t aviso = (examinadas / kColumnasPorAviso + 1) * kColumnasPorAviso;
         if (examinadas + n >= aviso) {
             progreso.Avance(aviso, total);
+            progreso.Escritas(cmb.Cuenta());
             if (progreso.Detenido()) {
                 r.detenida = true;
                 examinar = aviso - examinadas;
@@ -186,6 +187,7 @@ ResultadoGeneracion Generar(Combinacion& comb, const std::filesystem::path& carp
     comb.totalGeneradas = r.totalGeneradas;
     if (r.detenida) return r;
     progreso.Avance(examinadas, total);
+    progreso.Escritas(r.totalGeneradas);
 
     comb.activasGeneradas = comb.totalGeneradas;
     comb.panel.condicionada = comb.activasGeneradas;

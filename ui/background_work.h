@@ -18,19 +18,25 @@ class ProgresoAtomico final : public base::Progreso {
         total_.store(total, std::memory_order_relaxed);
     }
     bool Detenido() const override { return detener_.load(std::memory_order_relaxed); }
+    void Escritas(std::int64_t escritas) override {
+        escritas_.store(escritas, std::memory_order_relaxed);
+    }
 
     void Detener() { detener_.store(true, std::memory_order_relaxed); }
     void Reiniciar() {
         hecho_ = 0;
         total_ = 0;
+        escritas_ = 0;
         detener_ = false;
     }
     std::int64_t Hecho() const { return hecho_.load(std::memory_order_relaxed); }
     std::int64_t Total() const { return total_.load(std::memory_order_relaxed); }
+    std::int64_t Escritas() const { return escritas_.load(std::memory_order_relaxed); }
 
   private:
     std::atomic<std::int64_t> hecho_{0};
     std::atomic<std::int64_t> total_{0};
+    std::atomic<std::int64_t> escritas_{0};
     std::atomic<bool> detener_{false};
 };
 

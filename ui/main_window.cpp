@@ -20,7 +20,6 @@
 #include <cmath>
 
 #include "base/error.h"
-#include "base/record_files.h"
 #include "builders/automatic_percent.h"
 #include "builders/match_info.h"
 #include "engine/analysis.h"
@@ -759,11 +758,10 @@ void VentanaPrincipal::FinReduccion() {
 void VentanaPrincipal::Detener() { trabajo_.Detener(); }
 
 void VentanaPrincipal::RefrescarProgreso() {
-    // La cuenta en marcha: los registros que ya llegaron a "Cmb.tmp" (el hilo de trabajo escribe
-    // por bloques), sin que la generación tenga que avisar de cada columna.
+    // La cuenta en marcha: las columnas que la generación lleva escritas, al último aviso.
     if (!reduciendo_ && verContador_ && trabajo_.EnCurso()) {
-        generar_->seleccionadas->setText(Cifra(static_cast<double>(base::CuentaRegistros(
-            s_.carpetaTrabajo / engine::kCmbTmp, engine::RegistroColumna::kLongitud))));
+        generar_->seleccionadas->setText(
+            Cifra(static_cast<double>(trabajo_.Progreso().Escritas())));
     }
     if (!verBarra_) return;
     QProgressBar* barra = reduciendo_ ? reducir_->barra : generar_->barra;

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <fstream>
 
 #include "base/record_files.h"
@@ -101,6 +102,24 @@ TEST(Generar, ParadaDejaLoEscrito) {
     EXPECT_FALSE(r.reducirHabilitado);
     EXPECT_EQ(std::filesystem::file_size(carpeta / "Cmb.tmp"),
               static_cast<std::uintmax_t>(17 * 3 * kColumnasPorAviso));
+}
+
+TEST(Generar, LaCuentaEnMarchaLlegaConCadaAviso) {
+    pruebas::CarpetaTemporal carpeta;
+    pruebas::AjustesEnMemoria ajustes;
+    // Nueve triples y cinco fijos, con como mucho una "X": se escriben 2.816 de 19.683.
+    Combinacion c = ConBase(
+        {"1X2", "1X2", "1X2", "1X2", "1X2", "1X2", "1X2", "1X2", "1X2", "1", "1", "1", "1", "1"});
+    c.condiciones.maxEquis = 1;
+    c.condiciones.casilla[kCasillaGenerales] = true;
+    pruebas::ProgresoContador progreso;
+    Generar(c, carpeta.Ruta(), progreso, ajustes);
+    const auto& cuentas = progreso.CuentasEscritas();
+    ASSERT_FALSE(cuentas.empty());
+    EXPECT_TRUE(std::is_sorted(cuentas.begin(), cuentas.end()));
+    EXPECT_GT(cuentas.size(), 4U);
+    EXPECT_EQ(cuentas.back(), c.totalGeneradas);
+    EXPECT_EQ(c.totalGeneradas, 2816);
 }
 
 TEST(Generar, SinCasillasNoSeFiltra) {
