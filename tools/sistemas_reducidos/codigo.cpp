@@ -111,6 +111,24 @@ Codigo Completar(Codigo c, int radio) {
     return c;
 }
 
+Codigo Podar(Codigo c, int radio) {
+    std::vector<int> cuenta(static_cast<std::size_t>(c.espacio.Palabras()), 0);
+    for (const Palabra& f : c.filas) {
+        c.espacio.Bola(f, radio, [&](std::int64_t i) { ++cuenta[static_cast<std::size_t>(i)]; });
+    }
+    for (std::size_t k = c.filas.size(); k-- > 0;) {
+        bool sobra = true;
+        c.espacio.Bola(c.filas[k], radio, [&](std::int64_t i) {
+            sobra = sobra && cuenta[static_cast<std::size_t>(i)] > 1;
+        });
+        if (!sobra) continue;
+        c.espacio.Bola(c.filas[k], radio,
+                       [&](std::int64_t i) { --cuenta[static_cast<std::size_t>(i)]; });
+        c.filas.erase(c.filas.begin() + static_cast<std::ptrdiff_t>(k));
+    }
+    return c;
+}
+
 Codigo Rellenar(Codigo c, std::size_t filas) {
     std::set<Palabra> hay(c.filas.begin(), c.filas.end());
     for (std::int64_t i = 0; c.filas.size() < filas; ++i) {

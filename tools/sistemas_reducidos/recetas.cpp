@@ -1,5 +1,6 @@
 #include "recetas.h"
 
+#include <algorithm>
 #include <array>
 #include <map>
 #include <stdexcept>
@@ -49,9 +50,21 @@ Receta Suma(Receta a, Receta b) {
     return [=] { return SumaDirecta(a(), b()); };
 }
 
-// Suma amalgamada sobre el lugar la de a y lb de b, completada si hiciera falta.
-Receta Amalgamada(Receta a, int la, Receta b, int lb, int radio) {
-    return [=] { return Completar(Amalgama(a(), la, b(), lb, {0, 1, 2}), radio); };
+// Suma amalgamada sobre el lugar la de a y lb de b, con los símbolos de b en ese lugar
+// permutados (la permutación número "permutacion" en orden lexicográfico, o el cambio de "1" por
+// "X" en un doble), completada si no cubre todo y sin las filas que sobran.
+Receta Amalgamada(Receta a, int la, Receta b, int lb, int permutacion, int radio) {
+    return [=] {
+        const Codigo ca = a();
+        std::array<std::uint8_t, 3> cambio{0, 1, 2};
+        if (la < ca.espacio.Triples()) {
+            for (int i = 0; i < permutacion; ++i)
+                std::next_permutation(cambio.begin(), cambio.end());
+        } else if (permutacion == 1) {
+            cambio = {1, 0, 2};
+        }
+        return Podar(Completar(Amalgama(ca, la, b(), lb, cambio), radio), radio);
+    };
 }
 
 }  // namespace
@@ -82,14 +95,14 @@ std::vector<Sistema> Sistemas() {
         {12, 2, 6, 19, Tabu(2, 6, 2, 19)},
         {12, 3, 1, 3, Tabu(3, 1, 2, 3)},
         {12, 3, 4, 13, Tabu(3, 4, 2, 13)},
-        {12, 3, 7, 60, Suma(Tabu(0, 7, 1, 16), Tabu(3, 0, 1, 5))},
+        {12, 3, 7, 60, Amalgamada(Tabu(0, 7, 1, 16), 0, Tabu(3, 1, 1, 9), 3, 0, 2)},
         {12, 4, 0, 3, Tabu(4, 0, 2, 3)},
         {12, 4, 3, 18, Tabu(4, 3, 2, 18)},
         {12, 4, 4, 24, Tabu(4, 4, 2, 24)},
         {12, 4, 7, 144, Suma(Tabu(0, 7, 1, 16), Tabu(4, 0, 1, 9))},
         {12, 6, 0, 18, Tabu(6, 0, 2, 18)},
         {12, 6, 2, 48, Tabu(6, 2, 2, 48)},
-        {12, 6, 3, 72, Suma(Todo(0, 1), Tabu(6, 2, 2, 48))},
+        {12, 6, 3, 72, Amalgamada(Tabu(3, 2, 1, 16), 1, Tabu(4, 1, 1, 18), 0, 0, 2)},
         {12, 7, 0, 45, Tabu(7, 0, 2, 45)},
         {12, 8, 0, 81, Suma(Tabu(4, 0, 1, 9), Tabu(4, 0, 1, 9))},
         {12, 11, 0, 729, GolayTernario()},
@@ -100,38 +113,38 @@ std::vector<Sistema> Sistemas() {
         {11, 1, 8, 8, Tabu(1, 8, 3, 8)},
         {11, 1, 10, 20, Tabu(1, 10, 3, 20)},
         {11, 2, 4, 3, Tabu(2, 4, 3, 3)},
-        {11, 2, 6, 6, Amalgamada(Tabu(0, 3, 1, 2), 0, Tabu(2, 4, 2, 6), 2, 3)},
+        {11, 2, 6, 6, Amalgamada(Tabu(0, 3, 1, 2), 0, Tabu(2, 4, 2, 6), 2, 0, 3)},
         {11, 2, 8, 16, Tabu(2, 8, 3, 16)},
-        {11, 2, 9, 24, Suma(Todo(0, 1), Tabu(2, 8, 3, 16))},
+        {11, 2, 9, 24, Amalgamada(Tabu(0, 3, 1, 2), 0, Tabu(2, 7, 2, 28), 2, 0, 3)},
         {11, 3, 3, 3, Tabu(3, 3, 3, 3)},
         {11, 3, 5, 8, Tabu(3, 5, 3, 8)},
         {11, 3, 6, 12, Tabu(3, 6, 3, 12)},
-        {11, 3, 8, 32, Suma(Tabu(0, 3, 1, 2), Tabu(3, 5, 2, 23))},
+        {11, 3, 8, 32, Amalgamada(Tabu(2, 2, 1, 6), 2, Tabu(1, 7, 2, 12), 1, 0, 3)},
         {11, 4, 1, 3, Tabu(4, 1, 3, 3)},
         {11, 4, 3, 6, Tabu(4, 3, 3, 6)},
         {11, 4, 5, 16, Tabu(4, 5, 3, 16)},
-        {11, 4, 6, 24, Amalgamada(Tabu(0, 3, 1, 2), 0, Tabu(4, 4, 2, 24), 4, 3)},
-        {11, 4, 8, 68, Suma(Todo(0, 1), Suma(Tabu(0, 3, 1, 2), Tabu(4, 4, 2, 24)))},
+        {11, 4, 6, 24, Amalgamada(Tabu(0, 3, 1, 2), 0, Tabu(4, 4, 2, 24), 4, 0, 3)},
+        {11, 4, 8, 68, Amalgamada(Tabu(0, 7, 1, 16), 0, Tabu(4, 2, 2, 10), 4, 0, 3)},
         {11, 5, 0, 3, Tabu(5, 0, 3, 3)},
         {11, 5, 2, 7, Tabu(5, 2, 3, 7)},
         {11, 5, 3, 12, Tabu(5, 3, 3, 12)},
-        {11, 5, 5, 32, Suma(Tabu(0, 3, 1, 2), Tabu(5, 2, 2, 22))},
-        {11, 5, 7, 90, Suma(Tabu(1, 7, 2, 12), Tabu(4, 0, 1, 9))},
+        {11, 5, 5, 32, Amalgamada(Tabu(1, 2, 1, 3), 1, Tabu(4, 4, 2, 24), 4, 0, 3)},
+        {11, 5, 7, 90, Amalgamada(Tabu(0, 7, 1, 16), 0, Tabu(5, 1, 2, 12), 5, 0, 3)},
         {11, 6, 0, 6, Tabu(6, 0, 3, 6)},
-        {11, 6, 2, 16, Amalgamada(Tabu(3, 2, 1, 16), 1, Tabu(4, 0, 2, 3), 0, 3)},
-        {11, 6, 3, 24, Suma(Tabu(0, 3, 1, 2), Tabu(6, 0, 2, 17))},
-        {11, 6, 5, 72, Amalgamada(Tabu(2, 2, 1, 6), 2, Tabu(4, 4, 2, 24), 4, 3)},
-        {11, 6, 6, 96, Suma(Tabu(2, 2, 1, 6), Tabu(4, 4, 2, 24))},
+        {11, 6, 2, 16, Amalgamada(Tabu(3, 2, 1, 16), 1, Tabu(4, 0, 2, 3), 0, 0, 3)},
+        {11, 6, 3, 24, Amalgamada(Tabu(2, 2, 1, 6), 0, Tabu(5, 1, 2, 12), 2, 2, 3)},
+        {11, 6, 5, 72, Amalgamada(Tabu(2, 2, 1, 6), 2, Tabu(4, 4, 2, 24), 4, 0, 3)},
+        {11, 6, 6, 96, Amalgamada(Tabu(3, 2, 1, 16), 1, Tabu(4, 4, 2, 24), 0, 0, 3)},
         {11, 7, 0, 12, Tabu(7, 0, 3, 12)},
-        {11, 7, 1, 18, Amalgamada(Tabu(4, 1, 1, 18), 0, Tabu(4, 0, 2, 3), 0, 3)},
-        {11, 7, 3, 54, Suma(Tabu(2, 2, 1, 6), Tabu(5, 1, 2, 12))},
-        {11, 7, 5, 144, Amalgamada(Tabu(4, 1, 1, 18), 0, Tabu(4, 4, 2, 24), 0, 3)},
+        {11, 7, 1, 18, Amalgamada(Tabu(4, 1, 1, 18), 0, Tabu(4, 0, 2, 3), 0, 0, 3)},
+        {11, 7, 3, 54, Amalgamada(Tabu(2, 2, 1, 6), 0, Tabu(6, 1, 2, 29), 1, 1, 3)},
+        {11, 7, 5, 144, Amalgamada(Tabu(4, 1, 1, 18), 0, Tabu(4, 4, 2, 24), 0, 0, 3)},
         {11, 8, 0, 27, Suma(Tabu(4, 0, 1, 9), Filas(4, 0, {"1111", "XXXX", "2222"}))},
-        {11, 8, 2, 72, Suma(Tabu(4, 0, 1, 9), Tabu(4, 2, 2, 10))},
-        {11, 8, 3, 108, Suma(Tabu(0, 3, 1, 2), Suma(Tabu(4, 0, 1, 9), Tabu(4, 0, 1, 9)))},
-        {11, 9, 0, 54, Suma(Tabu(4, 0, 1, 9), Tabu(5, 0, 2, 8))},
-        {11, 9, 2, 144, Suma(Tabu(4, 0, 1, 9), Tabu(5, 2, 2, 22))},
-        {11, 10, 0, 108, Suma(Tabu(4, 0, 1, 9), Tabu(6, 0, 2, 17))},
+        {11, 8, 2, 72, Amalgamada(Tabu(2, 2, 1, 6), 2, Tabu(6, 1, 2, 29), 6, 0, 3)},
+        {11, 8, 3, 108, Amalgamada(Tabu(2, 2, 1, 6), 2, Tabu(6, 2, 2, 48), 6, 0, 3)},
+        {11, 9, 0, 54, Amalgamada(Tabu(4, 0, 1, 9), 0, Tabu(6, 0, 2, 17), 4, 0, 3)},
+        {11, 9, 2, 144, Amalgamada(Tabu(3, 0, 1, 5), 0, Amalgamada(Tabu(4, 1, 1, 18), 0, Tabu(4, 1, 1, 18), 0, 0, 2), 0, 0, 3)},
+        {11, 10, 0, 108, Amalgamada(Amalgamada(Tabu(4, 0, 1, 9), 0, Tabu(4, 0, 1, 9), 0, 0, 2), 1, Tabu(4, 0, 1, 9), 0, 0, 3)},
     };
     // clang-format on
 }
