@@ -26,23 +26,16 @@
 #include "ui/text_type_window.h"
 
 using namespace quinteva;
+using pruebas::Dichos;
+using pruebas::Guardada;
 using pruebas::Hijo;
+using pruebas::Marcar;
+using pruebas::Pulsar;
+using pruebas::Reducida;
 namespace fs = std::filesystem;
 using Registros = std::vector<engine::RegistroColumna>;
 
 namespace {
-
-// Lo que se mostró o preguntó desde la marca, sin los diálogos de archivos y carpetas.
-std::vector<std::string> Dichos(const pruebas::DialogoGuionado& dialogo, std::size_t marca = 0) {
-    std::vector<std::string> textos;
-    const auto& registro = dialogo.Registro();
-    for (std::size_t i = marca; i < registro.size(); ++i) {
-        const auto& tipo = registro[i].tipo;
-        if (tipo != "ArchivoParaAbrir" && tipo != "ArchivoParaGuardar" && tipo != "Carpeta")
-            textos.push_back(registro[i].texto);
-    }
-    return textos;
-}
 
 Registros Leer(const fs::path& ruta) {
     Registros registros;
@@ -70,52 +63,9 @@ QString Texto(QObject& madre, const char* nombre) {
     return Hijo<QLabel>(madre, QString::fromLatin1(nombre))->text();
 }
 
-void Pulsar(QObject& madre, const char* boton) {
-    QTest::mouseClick(Hijo<QPushButton>(madre, QString::fromLatin1(boton)), Qt::LeftButton);
-}
-
-void Marcar(ui::VentanaPrincipal& v, const char* opcion) {
-    auto* r = Hijo<QRadioButton>(v, QString::fromLatin1(opcion));
-    QTest::mouseClick(r, Qt::LeftButton, {}, QPoint(8, r->height() / 2));
-}
-
 template <typename T>
 void EsperarCierre(ui::VentanaPrincipal& v, const char* nombre) {
     QTRY_VERIFY(v.findChild<T*>(QString::fromLatin1(nombre)) == nullptr);
-}
-
-// Genera la base de ejemplo (36 columnas, sin condiciones) y la reduce al 13 con el reductor de
-// prueba; si se pide, más signos en el partido 5 (108 columnas).
-std::unique_ptr<ui::VentanaPrincipal> Reducida(pruebas::Instalacion& inst, bool grande = false) {
-    auto v = inst.Ventana();
-    pruebas::ElegirJornada(*v, 25);
-    pruebas::BaseDeEjemplo(*v);
-    if (grande) {
-        auto* rejilla = Hijo<QTableWidget>(*v, QStringLiteral("RejillaBase"));
-        pruebas::Pulsar(rejilla, 4, 3);
-        pruebas::Pulsar(rejilla, 4, 4);
-    }
-    pruebas::Pagina(*v, ui::kGenerar);
-    Pulsar(*v, "BotonGenerar");
-    pruebas::EsperarTrabajo(*v);
-    pruebas::Pagina(*v, ui::kReducir);
-    Pulsar(*v, "BotonReducir");
-    pruebas::EsperarTrabajo(*v);
-    return v;
-}
-
-// La misma Combinación guardada y abierta de nuevo, como la encuentra el usuario otro día.
-std::unique_ptr<ui::VentanaPrincipal> Guardada(pruebas::Instalacion& inst, const fs::path& ruta,
-                                               bool grande = false) {
-    {
-        auto v = Reducida(inst, grande);
-        inst.dialogo.Responder(std::optional<fs::path>(ruta));
-        Hijo<QAction>(*v, "AccionGuardarComo")->trigger();
-        if (!v->close()) qFatal("La ventana no se cierra");
-    }
-    auto v = inst.Ventana(ruta);
-    pruebas::Pagina(*v, ui::kBoletos);
-    return v;
 }
 
 void Ajustar(ui::VentanaPrincipal& v, const QString& apuestas) {
