@@ -2,6 +2,7 @@
 
 #include <QHeaderView>
 #include <QLabel>
+#include <QResizeEvent>
 #include <QTableWidget>
 #include <QVBoxLayout>
 
@@ -40,15 +41,18 @@ VentanaInformeFallos::VentanaInformeFallos(const std::vector<engine::FilaInforme
     rejilla_->setMinimumSize(
         rejilla_->fontMetrics().horizontalAdvance(QStringLiteral("Condiciones Generales")) * 5,
         rejilla_->verticalHeader()->defaultSectionSize() * 12);
+    rejilla_->installEventFilter(this);
     caja->addWidget(rejilla_);
     BotonAceptar(this, caja);
 }
 
-void VentanaInformeFallos::resizeEvent(QResizeEvent* evento) {
-    QDialog::resizeEvent(evento);
-    const int ancho = rejilla_->viewport()->width();
-    rejilla_->setColumnWidth(0, ancho / 5);
-    rejilla_->setColumnWidth(1, ancho * 3 / 5 - kMenosSegunda);
+bool VentanaInformeFallos::eventFilter(QObject* objeto, QEvent* evento) {
+    if (objeto == rejilla_ && evento->type() == QEvent::Resize) {
+        const int ancho = static_cast<QResizeEvent*>(evento)->size().width();
+        rejilla_->setColumnWidth(0, ancho / 5);
+        rejilla_->setColumnWidth(1, ancho * 3 / 5 - kMenosSegunda);
+    }
+    return QDialog::eventFilter(objeto, evento);
 }
 
 }  // namespace quinteva::ui

@@ -19,7 +19,8 @@ class VentanaInformeFallos : public QDialog {
                                   QWidget* madre = nullptr);
 
   protected:
-    void resizeEvent(QResizeEvent* evento) override;
+    // Los anchos de las columnas siguen al de la rejilla.
+    bool eventFilter(QObject* objeto, QEvent* evento) override;
 
   private:
     QTableWidget* rejilla_;

@@ -18,6 +18,8 @@ QTableWidget* RejillaInforme(QWidget* madre, const QString& nombre, int filas,
     r->verticalHeader()->setDefaultSectionSize(r->fontMetrics().height() + 6);
     r->setEditTriggers(QAbstractItemView::NoEditTriggers);
     r->setSelectionMode(QAbstractItemView::NoSelection);
+    // Solo se lee: sin celda actual marcada.
+    r->setFocusPolicy(Qt::NoFocus);
     return r;
 }
 

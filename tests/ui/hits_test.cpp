@@ -20,6 +20,7 @@
 #include "syndicates/pena_hits.h"
 #include "tests/cli/cli_runner.h"
 #include "tests/outputs/ad243_bytes.h"
+#include "tests/ui/hits_fixture.h"
 #include "tests/ui/window_fixture.h"
 #include "ui/analysis_window.h"
 #include "ui/blinking_greeting.h"
@@ -28,9 +29,14 @@
 #include "ui/located_columns_window.h"
 
 using namespace quinteva;
+using pruebas::Celda;
+using pruebas::Comprobar;
 using pruebas::Dichos;
 using pruebas::Hijo;
+using pruebas::MenuResultado;
+using pruebas::PonerGanadora;
 using pruebas::Pulsar;
+using pruebas::Teclear;
 namespace fs = std::filesystem;
 
 namespace {
@@ -71,45 +77,6 @@ std::string Cli(const std::string& argumentos) {
 
 bool Activo(QObject& ventana, const char* boton) {
     return Hijo<QPushButton>(ventana, QString::fromLatin1(boton))->isEnabled();
-}
-
-// Teclea en la celda de resultado de la fila (desde 0).
-void Teclear(ui::VentanaAciertos& ventana, int fila, const QString& teclas) {
-    auto* rejilla = Hijo<QTableWidget>(ventana, QStringLiteral("RejillaGanadora"));
-    rejilla->setFocus();
-    rejilla->setCurrentCell(fila, 1);
-    QTest::keyClicks(rejilla, teclas);
-}
-
-QString Celda(ui::VentanaAciertos& ventana, int fila) {
-    return Hijo<QTableWidget>(ventana, QStringLiteral("RejillaGanadora"))->item(fila, 1)->text();
-}
-
-// El menú del botón derecho sobre la celda de una fila y una de sus entradas.
-void MenuResultado(ui::VentanaAciertos& ventana, int fila, const QString& entrada) {
-    auto* rejilla = Hijo<QTableWidget>(ventana, QStringLiteral("RejillaGanadora"));
-    emit rejilla->customContextMenuRequested(
-        rejilla->visualItemRect(rejilla->item(fila, 1)).center());
-    // El último: los anteriores se borran más tarde.
-    const auto menus = ventana.findChildren<QMenu*>(QStringLiteral("MenuResultado"));
-    QVERIFY(!menus.isEmpty());
-    QMenu* menu = menus.last();
-    for (QAction* a : menu->actions()) {
-        if (a->text() == entrada) a->trigger();
-    }
-    menu->close();
-}
-
-// La columna ganadora entera con el teclado: 14 signos y los dos goles del Pleno.
-void PonerGanadora(ui::VentanaAciertos& ventana, const QString& signos, const QString& pleno) {
-    MenuResultado(ventana, 0, QStringLiteral("Eliminar todos"));
-    for (int f = 0; f < 14; ++f) Teclear(ventana, f, signos.mid(f, 1));
-    Teclear(ventana, 14, pleno);
-}
-
-void Comprobar(ui::VentanaAciertos& ventana, const char* boton) {
-    Pulsar(ventana, boton);
-    QTRY_VERIFY_WITH_TIMEOUT(!ventana.Trabajo().EnCurso(), 60000);
 }
 
 // Un turno del temporizador del saludo, sin esperarlo.
