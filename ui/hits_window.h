@@ -103,8 +103,9 @@ class VentanaAciertos : public QDialog {
     QPushButton* datos_ = nullptr;
     QPushButton* pena_ = nullptr;
 
-    TrabajoEnSegundoPlano trabajo_;
     DialogoEntreHilos dialogoDelHilo_{j_.dialogo, this};
+    // Después del Dialogo del hilo: al destruirse espera al hilo, que aún puede usarlo.
+    TrabajoEnSegundoPlano trabajo_;
     QTimer refresco_;
 };
 

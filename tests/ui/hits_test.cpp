@@ -424,6 +424,20 @@ class PruebaAciertos : public QObject {
     void SinJornadaNoSeComprueba() {
         pruebas::Instalacion otra;
         auto w = otra.Ventana();
+        // Sin "&Datos" en la Temporada: solo los títulos de las filas y el panel en blanco.
+        Hijo<QAction>(*w, QStringLiteral("AccionAnalisisDatos"))->trigger();
+        auto* analisis = Hijo<ui::VentanaAnalisisDatos>(*w, QStringLiteral("VentanaAnalisisDatos"));
+        auto* rejilla = Hijo<QTableWidget>(*analisis, QStringLiteral("RejillaAnalisis"));
+        QCOMPARE(rejilla->columnCount(), 1);
+        QCOMPARE(rejilla->rowCount(), static_cast<int>(outputs::FilasAnalisis().size()));
+        int valores = 0;
+        for (const QLabel* valor : analisis->findChildren<QLabel*>()) {
+            if (!valor->objectName().startsWith(QStringLiteral("ValorResumen"))) continue;
+            QCOMPARE(valor->text(), QString());
+            ++valores;
+        }
+        QVERIFY(valores > 0);
+        analisis->close();
         QVERIFY(!Hijo<QAction>(*w, QStringLiteral("AccionAciertos"))->isEnabled());
         QVERIFY(Hijo<QAction>(*w, QStringLiteral("AccionAnalisisDatos"))->isEnabled());
         pruebas::ElegirJornada(*w, kJornada);
