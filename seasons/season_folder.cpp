@@ -27,6 +27,17 @@ std::string NombreCarpetaTemporada(std::string_view temporada) {
     return "Temporada" + cifras;
 }
 
+std::string TemporadaDeCarpeta(std::string_view carpetaTemporada) {
+    constexpr std::string_view kPrefijo = "Temporada";
+    const std::string_view t = base::Recortar(carpetaTemporada);
+    const std::string_view cifras = t.substr(std::min(t.size(), kPrefijo.size()));
+    if (!t.starts_with(kPrefijo) || cifras.size() != 4 ||
+        !std::all_of(cifras.begin(), cifras.end(), [](char c) { return c >= '0' && c <= '9'; })) {
+        return {};
+    }
+    return std::string(cifras.substr(0, 2)) + "/" + std::string(cifras.substr(2));
+}
+
 std::optional<std::string> TemporadaActual(const std::filesystem::path& carpetaTrabajo) {
     const auto ruta = carpetaTrabajo / kTempor;
     if (base::CuentaRegistros(ruta, RegTempor::kLongitud) < 1) return std::nullopt;

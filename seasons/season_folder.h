@@ -34,6 +34,9 @@ extern const std::array<ArchivoTemporada, 8> kArchivosTemporada;
 
 // "Temporada" seguido de las dos primeras y las dos últimas cifras: "01/02" da "Temporada0102".
 std::string NombreCarpetaTemporada(std::string_view temporada);
+// Al revés: "Temporada0102" da "01/02", la Temporada como la guardan los registros. Sin sus cuatro
+// cifras tras "Temporada", vacío.
+std::string TemporadaDeCarpeta(std::string_view carpetaTemporada);
 
 // TemporadaActual: el nombre de la carpeta guardado en "Tempor.rar", recortado; nada si el archivo
 // falta o está vacío. No crea el archivo.

@@ -240,9 +240,11 @@ void VentanaPrincipal::CrearMenus() {
     Accion(resultados, QStringLiteral("Actualización por Internet"),
            QStringLiteral("AccionActualizacionInternet"), false);
     Accion(ver, QStringLiteral("&Clasificaciones"), QStringLiteral("AccionClasificaciones"), false);
-    Accion(ver, QStringLiteral("Comprobación de &Aciertos"), QStringLiteral("AccionAciertos"),
-           false);
-    Accion(ver, QStringLiteral("Análisis de Datos"), QStringLiteral("AccionAnalisisDatos"), false);
+    comprobarAciertos_ =
+        Accion(ver, QStringLiteral("Comprobación de &Aciertos"), QStringLiteral("AccionAciertos"));
+    connect(comprobarAciertos_, &QAction::triggered, this, &VentanaPrincipal::ComprobarAciertos);
+    connect(Accion(ver, QStringLiteral("Análisis de Datos"), QStringLiteral("AccionAnalisisDatos")),
+            &QAction::triggered, this, &VentanaPrincipal::AnalisisDeDatos);
 
     QMenu* herramientas = menuBar()->addMenu(QStringLiteral("&Herramientas"));
     herramientas->setObjectName(QStringLiteral("MenuHerramientas"));
@@ -828,6 +830,8 @@ void VentanaPrincipal::Refrescar() {
     guardar_->setEnabled(completa);
     guardarComo_->setEnabled(completa);
     copiar_->setEnabled(habilitada_[kCondicion]);
+    // La comprobación es de la Jornada que se muestra.
+    comprobarAciertos_->setEnabled(!fechaJornada_.isEmpty());
     panel_->Mostrar(comb_.panel);
     base_->Mostrar(comb_.base);
     RefrescarPaginaGenerar();

@@ -96,6 +96,9 @@ class VentanaPrincipal : public QMainWindow {
     void Listado(bool condicionadas);
     // "&Leer o modificar archivo JSON".
     void ArchivoJson();
+    // "Comprobación de &Aciertos" sobre la Jornada que se muestra y "Análisis de Datos".
+    void ComprobarAciertos();
+    void AnalisisDeDatos();
 
   protected:
     void closeEvent(QCloseEvent* evento) override;
@@ -189,6 +192,7 @@ class VentanaPrincipal : public QMainWindow {
     QAction* listadoCondicionadas_ = nullptr;
     QAction* listadoReducidas_ = nullptr;
     QAction* listadoJugado_ = nullptr;
+    QAction* comprobarAciertos_ = nullptr;
 
     TrabajoEnSegundoPlano trabajo_;
     QTimer refresco_;

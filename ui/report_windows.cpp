@@ -1,51 +1,18 @@
 #include "ui/report_windows.h"
 
-#include <QDialogButtonBox>
 #include <QFormLayout>
 #include <QHeaderView>
 #include <QLabel>
-#include <QPushButton>
 #include <QTableWidget>
 #include <QVBoxLayout>
 
 #include "builders/reduction_display.h"
+#include "ui/report_grid.h"
 
 namespace quinteva::ui {
 namespace {
 
 QString Q(const std::string& t) { return QString::fromStdString(t); }
-
-QTableWidgetItem* Item(const QString& texto, bool negrita, bool derecha) {
-    auto* item = new QTableWidgetItem(texto);
-    QFont f = item->font();
-    f.setBold(negrita);
-    item->setFont(f);
-    item->setTextAlignment((derecha ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
-    return item;
-}
-
-QTableWidget* Rejilla(QWidget* madre, const QString& nombre, int filas,
-                      const QStringList& cabeceras) {
-    auto* r = new QTableWidget(filas, static_cast<int>(cabeceras.size()), madre);
-    r->setObjectName(nombre);
-    r->setHorizontalHeaderLabels(cabeceras);
-    r->verticalHeader()->hide();
-    r->verticalHeader()->setDefaultSectionSize(r->fontMetrics().height() + 6);
-    r->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    r->setSelectionMode(QAbstractItemView::NoSelection);
-    return r;
-}
-
-// "&Aceptar" que cierra la ventana, con el foco al abrirse.
-void Aceptar(QDialog* ventana, QVBoxLayout* caja) {
-    auto* botones = new QDialogButtonBox(ventana);
-    auto* aceptar = botones->addButton(QStringLiteral("&Aceptar"), QDialogButtonBox::AcceptRole);
-    aceptar->setObjectName(QStringLiteral("BotonAceptar"));
-    aceptar->setDefault(true);
-    QObject::connect(botones, &QDialogButtonBox::accepted, ventana, &QDialog::accept);
-    caja->addWidget(botones);
-    aceptar->setFocus();
-}
 
 }  // namespace
 
@@ -58,12 +25,13 @@ VentanaRechazadas::VentanaRechazadas(const std::vector<engine::FilaInforme>& fil
         new QLabel(QStringLiteral("Informe sobre Columnas rechazadas por los filtros"), this);
     titulo->setStyleSheet(QStringLiteral("font-weight: bold"));
     caja->addWidget(titulo);
-    auto* r = Rejilla(this, QStringLiteral("RejillaRechazadas"), static_cast<int>(filas.size()),
-                      {QStringLiteral("Filtro"), QStringLiteral("Número")});
+    auto* r =
+        RejillaInforme(this, QStringLiteral("RejillaRechazadas"), static_cast<int>(filas.size()),
+                       {QStringLiteral("Filtro"), QStringLiteral("Número")});
     for (std::size_t i = 0; i < filas.size(); ++i) {
         const bool total = i + 1 == filas.size();
-        r->setItem(static_cast<int>(i), 0, Item(Q(filas[i].primera), total, false));
-        r->setItem(static_cast<int>(i), 1, Item(Q(filas[i].segunda), total, true));
+        r->setItem(static_cast<int>(i), 0, CeldaInforme(Q(filas[i].primera), total, false));
+        r->setItem(static_cast<int>(i), 1, CeldaInforme(Q(filas[i].segunda), total, true));
     }
     r->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
     r->setColumnWidth(1, r->fontMetrics().horizontalAdvance(QStringLiteral("4.782.969")) + 40);
@@ -72,7 +40,7 @@ VentanaRechazadas::VentanaRechazadas(const std::vector<engine::FilaInforme>& fil
             r->columnWidth(1) + 40,
         r->verticalHeader()->defaultSectionSize() * 14);
     caja->addWidget(r);
-    Aceptar(this, caja);
+    BotonAceptar(this, caja);
 }
 
 VentanaTablaReducciones::VentanaTablaReducciones(const std::vector<FilaTablaReducciones>& filas,
@@ -90,16 +58,16 @@ VentanaTablaReducciones::VentanaTablaReducciones(const std::vector<FilaTablaRedu
     auto* cabecera = new QLabel(QStringLiteral("Nº de apuestas reducidas"), this);
     cabecera->setAlignment(Qt::AlignRight);
     caja->addWidget(cabecera);
-    auto* r =
-        Rejilla(this, QStringLiteral("RejillaTablaReducciones"), static_cast<int>(filas.size()),
-                {QStringLiteral("Combinaciones"), QStringLiteral("Al 13"), QStringLiteral("Al 12"),
-                 QStringLiteral("Al 11")});
+    auto* r = RejillaInforme(this, QStringLiteral("RejillaTablaReducciones"),
+                             static_cast<int>(filas.size()),
+                             {QStringLiteral("Combinaciones"), QStringLiteral("Al 13"),
+                              QStringLiteral("Al 12"), QStringLiteral("Al 11")});
     for (std::size_t i = 0; i < filas.size(); ++i) {
         const int f = static_cast<int>(i);
-        r->setItem(f, 0, Item(Q(filas[i].combinaciones), false, false));
+        r->setItem(f, 0, CeldaInforme(Q(filas[i].combinaciones), false, false));
         for (int n = 0; n < 3; ++n) {
             const auto& celda = filas[i].niveles[static_cast<std::size_t>(n)];
-            auto* item = Item(Q(celda.texto), celda.negrita, true);
+            auto* item = CeldaInforme(Q(celda.texto), celda.negrita, true);
             item->setTextAlignment(Qt::AlignCenter);
             r->setItem(f, n + 1, item);
         }
@@ -111,7 +79,7 @@ VentanaTablaReducciones::VentanaTablaReducciones(const std::vector<FilaTablaRedu
     r->setMinimumSize(r->columnWidth(0) + 3 * cifra + 40,
                       r->verticalHeader()->defaultSectionSize() * 20);
     caja->addWidget(r);
-    Aceptar(this, caja);
+    BotonAceptar(this, caja);
 }
 
 VentanaReduccion::VentanaReduccion(const InformeReduccion& informe, QWidget* madre)
@@ -131,7 +99,7 @@ VentanaReduccion::VentanaReduccion(const InformeReduccion& informe, QWidget* mad
     formulario->addRow(QStringLiteral("Probabilidad de obtener 14 aciertos"),
                        valor(QStringLiteral("ValorProbabilidad"), Q(informe.probabilidad)));
     caja->addLayout(formulario);
-    Aceptar(this, caja);
+    BotonAceptar(this, caja);
 }
 
 }  // namespace quinteva::ui

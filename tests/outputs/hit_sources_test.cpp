@@ -8,36 +8,20 @@
 #include "outputs/json_bag.h"
 #include "outputs/official_file.h"
 #include "tests/builders/boletos_fixture.h"
+#include "tests/outputs/ad243_bytes.h"
 #include "tests/support/counting_progress.h"
 
 namespace quinteva::outputs {
 namespace {
 
 using builders::Jugada;
+using pruebas::BytesAD243;
 using pruebas::Registro;
 
 constexpr int kJornada = 7;
 const std::string kGanadora =
     "1X21X111111111"
     "1M";
-
-// Un AD243 como lo dejaría el programa de la administración: cabecera "C..243" con la Jornada y
-// un registro de 8 columnas por Boleto con su Pleno.
-std::string BytesAD243(const std::vector<engine::RegistroColumna>& columnas,
-                       const std::string& jornada = "07") {
-    std::string bytes(kLongitudAD243, ' ');
-    bytes.replace(0, 8, "C01243" + jornada);
-    for (std::size_t desde = 0; desde < columnas.size(); desde += 8) {
-        std::string registro(kLongitudAD243, ' ');
-        registro.replace(0, 10, "0000000010");
-        for (std::size_t c = 0; c < 8 && desde + c < columnas.size(); ++c) {
-            registro.replace(10 + 14 * c, 14, engine::TextoDeColumna(columnas[desde + c].columna));
-        }
-        registro.replace(122, 2, engine::TextoDePleno(columnas[desde].pleno));
-        bytes += registro;
-    }
-    return bytes;
-}
 
 void Escribir(const std::filesystem::path& ruta, const std::string& bytes) {
     std::ofstream(ruta, std::ios::binary) << bytes;

@@ -29,6 +29,15 @@ TEST(CarpetaTemporada, NombreConLasCifrasDeLaTemporada) {
     EXPECT_EQ(NombreCarpetaTemporada("23/24"), "Temporada2324");
 }
 
+TEST(CarpetaTemporada, LaTemporadaDeSuNombre) {
+    EXPECT_EQ(TemporadaDeCarpeta("Temporada0102"), "01/02");
+    EXPECT_EQ(TemporadaDeCarpeta("Temporada2324 "), "23/24");
+    EXPECT_EQ(TemporadaDeCarpeta(NombreCarpetaTemporada("99/00")), "99/00");
+    EXPECT_EQ(TemporadaDeCarpeta("Temporada23"), "");
+    EXPECT_EQ(TemporadaDeCarpeta("Temporada23a4"), "");
+    EXPECT_EQ(TemporadaDeCarpeta("Otra2324"), "");
+}
+
 TEST(TemporadaActual, DeTemporRar) {
     CarpetaTemporal trabajo;
     EXPECT_FALSE(TemporadaActual(trabajo.Ruta()));

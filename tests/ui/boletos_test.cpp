@@ -26,23 +26,16 @@
 #include "ui/text_type_window.h"
 
 using namespace quinteva;
+using pruebas::Dichos;
+using pruebas::Guardada;
 using pruebas::Hijo;
+using pruebas::Marcar;
+using pruebas::Pulsar;
+using pruebas::Reducida;
 namespace fs = std::filesystem;
 using Registros = std::vector<engine::RegistroColumna>;
 
 namespace {
-
-// Lo que se mostró o preguntó desde la marca, sin los diálogos de archivos y carpetas.
-std::vector<std::string> Dichos(const pruebas::DialogoGuionado& dialogo, std::size_t marca = 0) {
-    std::vector<std::string> textos;
-    const auto& registro = dialogo.Registro();
-    for (std::size_t i = marca; i < registro.size(); ++i) {
-        const auto& tipo = registro[i].tipo;
-        if (tipo != "ArchivoParaAbrir" && tipo != "ArchivoParaGuardar" && tipo != "Carpeta")
-            textos.push_back(registro[i].texto);
-    }
-    return textos;
-}
 
 Registros Leer(const fs::path& ruta) {
     Registros registros;
@@ -66,56 +59,9 @@ std::string Bytes(const fs::path& ruta) {
     return {std::istreambuf_iterator<char>(f), std::istreambuf_iterator<char>()};
 }
 
-QString Texto(QObject& madre, const char* nombre) {
-    return Hijo<QLabel>(madre, QString::fromLatin1(nombre))->text();
-}
-
-void Pulsar(QObject& madre, const char* boton) {
-    QTest::mouseClick(Hijo<QPushButton>(madre, QString::fromLatin1(boton)), Qt::LeftButton);
-}
-
-void Marcar(ui::VentanaPrincipal& v, const char* opcion) {
-    auto* r = Hijo<QRadioButton>(v, QString::fromLatin1(opcion));
-    QTest::mouseClick(r, Qt::LeftButton, {}, QPoint(8, r->height() / 2));
-}
-
 template <typename T>
 void EsperarCierre(ui::VentanaPrincipal& v, const char* nombre) {
     QTRY_VERIFY(v.findChild<T*>(QString::fromLatin1(nombre)) == nullptr);
-}
-
-// Genera la base de ejemplo (36 columnas, sin condiciones) y la reduce al 13 con el reductor de
-// prueba; si se pide, más signos en el partido 5 (108 columnas).
-std::unique_ptr<ui::VentanaPrincipal> Reducida(pruebas::Instalacion& inst, bool grande = false) {
-    auto v = inst.Ventana();
-    pruebas::ElegirJornada(*v, 25);
-    pruebas::BaseDeEjemplo(*v);
-    if (grande) {
-        auto* rejilla = Hijo<QTableWidget>(*v, QStringLiteral("RejillaBase"));
-        pruebas::Pulsar(rejilla, 4, 3);
-        pruebas::Pulsar(rejilla, 4, 4);
-    }
-    pruebas::Pagina(*v, ui::kGenerar);
-    Pulsar(*v, "BotonGenerar");
-    pruebas::EsperarTrabajo(*v);
-    pruebas::Pagina(*v, ui::kReducir);
-    Pulsar(*v, "BotonReducir");
-    pruebas::EsperarTrabajo(*v);
-    return v;
-}
-
-// La misma Combinación guardada y abierta de nuevo, como la encuentra el usuario otro día.
-std::unique_ptr<ui::VentanaPrincipal> Guardada(pruebas::Instalacion& inst, const fs::path& ruta,
-                                               bool grande = false) {
-    {
-        auto v = Reducida(inst, grande);
-        inst.dialogo.Responder(std::optional<fs::path>(ruta));
-        Hijo<QAction>(*v, "AccionGuardarComo")->trigger();
-        if (!v->close()) qFatal("La ventana no se cierra");
-    }
-    auto v = inst.Ventana(ruta);
-    pruebas::Pagina(*v, ui::kBoletos);
-    return v;
 }
 
 void Ajustar(ui::VentanaPrincipal& v, const QString& apuestas) {
@@ -147,7 +93,7 @@ void MenuDeColumna(ui::VentanaEliminarColumnas& ventana, int columna, const QStr
 
 // El año de dos cifras de la fecha que se muestra, en cuatro.
 QString AnioMostrado(ui::VentanaPrincipal& v) {
-    return QStringLiteral("20") + Texto(v, "FechaJornada").right(2);
+    return QStringLiteral("20") + pruebas::TextoDe(v, "FechaJornada").right(2);
 }
 
 }  // namespace
@@ -169,7 +115,7 @@ class PruebaBoletos : public QObject {
         Marcar(*v, "OpcionReducida");
         QCOMPARE(v->Combinacion().jugada, std::string("red"));
         QCOMPARE(outputs::LeerJuegoJugado(ruta).juego, std::string("red"));
-        QCOMPARE(Texto(*v, "ApuestasEnTotal"), QStringLiteral(" %1").arg(reducidas));
+        QCOMPARE(pruebas::TextoDe(*v, "ApuestasEnTotal"), QStringLiteral(" %1").arg(reducidas));
         QVERIFY(Hijo<QPushButton>(*v, "BotonArchivoOficial")->isEnabled());
         QVERIFY(!Hijo<QPushButton>(*v, "BotonImprimirBoletos")->isEnabled());
         QVERIFY(!Hijo<QPushButton>(*v, "BotonImprimirPapel")->isEnabled());
@@ -177,7 +123,7 @@ class PruebaBoletos : public QObject {
         // Ajustar a 16: se sortean columnas de la base y se guarda.
         Ajustar(*v, QStringLiteral("16"));
         QCOMPARE(v->Combinacion().activasReducidas, 16);
-        QCOMPARE(Texto(*v, "ApuestasEnTotal"), QStringLiteral(" 16"));
+        QCOMPARE(pruebas::TextoDe(*v, "ApuestasEnTotal"), QStringLiteral(" 16"));
         QCOMPARE(Activas(Leer(red)), 16);
         QVERIFY(Dichos(inst.dialogo).empty());
 
@@ -187,10 +133,10 @@ class PruebaBoletos : public QObject {
         auto* rejilla = Hijo<QTableWidget>(*eliminar, QStringLiteral("RejillaColumnas"));
         QCOMPARE(rejilla->horizontalHeaderItem(0)->text(), QStringLiteral("Col. 1"));
         Regla(*eliminar, 0, 0, 3);
-        QCOMPARE(Texto(*eliminar, "RotuloDeA"), QStringLiteral("de"));
+        QCOMPARE(pruebas::TextoDe(*eliminar, "RotuloDeA"), QStringLiteral("de"));
         Pulsar(*eliminar, "BotonEliminar");
         QCOMPARE(v->Combinacion().activasReducidas, 1);
-        QCOMPARE(Texto(*eliminar, "CuentaEliminar"), QStringLiteral("1 "));
+        QCOMPARE(pruebas::TextoDe(*eliminar, "CuentaEliminar"), QStringLiteral("1 "));
         const Registros tras = Leer(red);
         QCOMPARE(Activas(tras), 1);
         for (std::size_t i = 0; i < tras.size() && i < 16; ++i) {
@@ -214,7 +160,7 @@ class PruebaBoletos : public QObject {
         Pulsar(*eliminar, "BotonSalir");
         EsperarCierre<ui::VentanaEliminarColumnas>(*v, "VentanaEliminarColumnas");
         QCOMPARE(Dichos(inst.dialogo, marca).size(), std::size_t{2});
-        QCOMPARE(Texto(*v, "ApuestasEnTotal"), QStringLiteral(" 2"));
+        QCOMPARE(pruebas::TextoDe(*v, "ApuestasEnTotal"), QStringLiteral(" 2"));
 
         // Añadir una a mano: catorce "2", fuera de la base.
         Pulsar(*v, "BotonAnadirManual");
@@ -227,7 +173,7 @@ class PruebaBoletos : public QObject {
         QTest::keyClick(entrada, '2');
         Pulsar(*anadir, "BotonIncluir");
         QCOMPARE(v->Combinacion().activasReducidas, 3);
-        QCOMPARE(Texto(*anadir, "CuentaAnadir"), QStringLiteral("3 "));
+        QCOMPARE(pruebas::TextoDe(*anadir, "CuentaAnadir"), QStringLiteral("3 "));
         const Registros conLaNueva = Leer(red);
         QCOMPARE(Signos(conLaNueva.back()), std::string(14, '2'));
         QCOMPARE(conLaNueva.back().estado, '0');
@@ -238,7 +184,7 @@ class PruebaBoletos : public QObject {
         QCOMPARE(Dichos(inst.dialogo, marca).back(),
                  builders::MsgYaIncluida(static_cast<std::int32_t>(conLaNueva.size()), false));
         anadir->close();
-        QCOMPARE(Texto(*v, "ApuestasEnTotal"), QStringLiteral(" 3"));
+        QCOMPARE(pruebas::TextoDe(*v, "ApuestasEnTotal"), QStringLiteral(" 3"));
 
         // El archivo oficial de las tres.
         Pulsar(*v, "BotonArchivoOficial");
@@ -395,8 +341,8 @@ class PruebaBoletos : public QObject {
         Ajustar(*v, QStringLiteral("16"));
         QCOMPARE(Dichos(inst.dialogo).back(), std::string(builders::kPreguntaBajar));
         QCOMPARE(v->Combinacion().activasGeneradas, 16);
-        QCOMPARE(Texto(*v, "ApuestasEnTotal"), QStringLiteral(" 16"));
-        QCOMPARE(Texto(*v, "EtiquetaCondicionada"), QStringLiteral(" 16"));
+        QCOMPARE(pruebas::TextoDe(*v, "ApuestasEnTotal"), QStringLiteral(" 16"));
+        QCOMPARE(pruebas::TextoDe(*v, "EtiquetaCondicionada"), QStringLiteral(" 16"));
         QCOMPARE(Activas(Leer(inst.documentos / "Ajuste.cnd")), 16);
         // Hacia arriba la base está casi llena: se pregunta y se revive lo eliminado.
         inst.dialogo.Responder(base::Respuesta::Si);
@@ -450,7 +396,8 @@ class PruebaBoletos : public QObject {
         // La barra de herramientas lista lo que se juega.
         Hijo<QAction>(*v, "BarraListado")->trigger();
         listado = Hijo<ui::VentanaListado>(*v, "VentanaListado");
-        QCOMPARE(Texto(*listado, "RotuloListado"), QStringLiteral("Apuestas Condicionadas"));
+        QCOMPARE(pruebas::TextoDe(*listado, "RotuloListado"),
+                 QStringLiteral("Apuestas Condicionadas"));
         lista = Hijo<QListWidget>(*listado, QStringLiteral("ListaApuestas"));
         auto* paginas = Hijo<QScrollBar>(*listado, QStringLiteral("BarraListado"));
         const int total = v->Combinacion().totalGeneradas;
@@ -512,7 +459,7 @@ class PruebaBoletos : public QObject {
         EsperarCierre<ui::VentanaAnadirColumnas>(*v, "VentanaAnadirColumnas");
         QCOMPARE(Dichos(inst.dialogo).back(), std::string(builders::kMsgAleatoria));
         QCOMPARE(v->Combinacion().activasGeneradas, 18);
-        QCOMPARE(Texto(*v, "ApuestasEnTotal"), QStringLiteral(" 18"));
+        QCOMPARE(pruebas::TextoDe(*v, "ApuestasEnTotal"), QStringLiteral(" 18"));
         QCOMPARE(Activas(Leer(inst.documentos / "Completar.cnd")), 18);
         QVERIFY(inst.dialogo.GuionAgotado());
     }

@@ -7,11 +7,16 @@
 #include <QtTest>
 
 #include "engine/analysis.h"
+#include "tests/ui/hits_fixture.h"
 #include "tests/ui/window_fixture.h"
 #include "ui/add_columns_window.h"
+#include "ui/analysis_window.h"
 #include "ui/bets_list_window.h"
+#include "ui/blinking_greeting.h"
 #include "ui/boletos_notice.h"
+#include "ui/failure_report_window.h"
 #include "ui/json_file_window.h"
+#include "ui/located_columns_window.h"
 #include "ui/official_file_window.h"
 #include "ui/options_window.h"
 #include "ui/remove_columns_window.h"
@@ -77,6 +82,7 @@ class PruebaCapturas : public QObject {
         QTest::mouseClick(reducida, Qt::LeftButton, {}, QPoint(8, reducida->height() / 2));
         Capturar(*w, QStringLiteral("pagina_4_boletos"));
         CapturarVentanasDeBoletos(inst, *w);
+        CapturarVentanasDeAciertos(inst, *w);
     }
 
     // Cada ventana que se abre desde la página Boletos y los menús, sobre la Combinación dada.
@@ -118,6 +124,34 @@ class PruebaCapturas : public QObject {
         Capturar(*Hijo<ui::VentanaListado>(v, "VentanaListado"),
                  QStringLiteral("ventana_listado_apuestas"));
         QVERIFY(inst.dialogo.GuionAgotado());
+    }
+
+    // La comprobación de aciertos con sus ventanas: primero con quince aciertos, luego con un
+    // resultado que nadie juega para el informe de fallos y los datos del análisis.
+    void CapturarVentanasDeAciertos(pruebas::Instalacion& inst, ui::VentanaPrincipal& v) {
+        Hijo<QAction>(v, "AccionAciertos")->trigger();
+        auto* aciertos = Hijo<ui::VentanaAciertos>(v, "VentanaAciertos");
+        Capturar(*aciertos, QStringLiteral("ventana_comprobacion_aciertos_al_abrir"));
+        pruebas::PonerGanadora(*aciertos, QStringLiteral("11111111111111"), QStringLiteral("1m"));
+        pruebas::Pulsar(*aciertos, "BotonGuardar");
+        pruebas::Comprobar(*aciertos, "BotonAciertos");
+        Capturar(*aciertos, QStringLiteral("ventana_comprobacion_aciertos"));
+        pruebas::Pulsar(*aciertos, "BotonColumnas");
+        auto* columnas = Hijo<ui::VentanaColumnasAcertadas>(*aciertos, "VentanaColumnasAcertadas");
+        Capturar(*columnas, QStringLiteral("ventana_columnas_acertadas"));
+        columnas->close();
+        pruebas::Teclear(*aciertos, 4, QStringLiteral("2"));
+        pruebas::Pulsar(*aciertos, "BotonGuardar");
+        pruebas::Comprobar(*aciertos, "BotonAciertos");
+        pruebas::Pulsar(*aciertos, "BotonFallos");
+        Capturar(*Hijo<ui::VentanaInformeFallos>(*aciertos, "VentanaInformeFallos"),
+                 QStringLiteral("ventana_informe_fallos"));
+        pruebas::Pulsar(*aciertos, "BotonDatos");
+        aciertos->close();
+        Hijo<QAction>(v, "AccionAnalisisDatos")->trigger();
+        Capturar(*Hijo<ui::VentanaAnalisisDatos>(v, "VentanaAnalisisDatos"),
+                 QStringLiteral("ventana_analisis_datos"));
+        QCOMPARE(pruebas::Dichos(inst.dialogo).back(), std::string("Se han guardados los datos."));
     }
 
     void Ventanas() {

@@ -19,10 +19,6 @@ namespace fs = std::filesystem;
 
 namespace {
 
-QString Texto(ui::VentanaPrincipal& v, const char* etiqueta) {
-    return Hijo<QLabel>(v, QString::fromLatin1(etiqueta))->text();
-}
-
 std::string Bytes(const fs::path& ruta) {
     std::ifstream f(ruta, std::ios::binary);
     return {std::istreambuf_iterator<char>(f), std::istreambuf_iterator<char>()};
@@ -59,7 +55,7 @@ class PruebaVentanaPrincipal : public QObject {
         pruebas::Instalacion inst;
         auto v = inst.Ventana();
         QVERIFY(fs::exists(inst.trabajo / "Tempor.rar"));
-        QCOMPARE(Texto(*v, "EtiquetaTemporada"), QStringLiteral("Temporada2324"));
+        QCOMPARE(pruebas::TextoDe(*v, "EtiquetaTemporada"), QStringLiteral("Temporada2324"));
         auto* lista = Hijo<QComboBox>(*v, QStringLiteral("ListaJornadas"));
         QCOMPARE(lista->count(), 26);
         QCOMPARE(lista->itemText(0), QStringLiteral("1"));
@@ -94,13 +90,13 @@ class PruebaVentanaPrincipal : public QObject {
         QVERIFY(rejilla->item(0, 1)->text().contains(QStringLiteral(" - ")));
         QCOMPARE(rejilla->item(14, 0)->text(), QStringLiteral("15"));
         QCOMPARE(rejilla->item(0, 3)->text(), QStringLiteral("x"));
-        QCOMPARE(Texto(*v, "FechaJornada"), QStringLiteral("04/02/24"));
+        QCOMPARE(pruebas::TextoDe(*v, "FechaJornada"), QStringLiteral("04/02/24"));
         QCOMPARE(v->Combinacion().jornada, 26);
         // Un clic en el partido llena el panel de información.
         pruebas::Pulsar(rejilla, 0, 1);
         const auto equipos = rejilla->item(0, 1)->text().split(QStringLiteral(" - "));
-        QCOMPARE(Texto(*v, "InfoLocal"), equipos[0]);
-        QCOMPARE(Texto(*v, "InfoVisitante"), equipos[1]);
+        QCOMPARE(pruebas::TextoDe(*v, "InfoLocal"), equipos[0]);
+        QCOMPARE(pruebas::TextoDe(*v, "InfoVisitante"), equipos[1]);
         QVERIFY(Hijo<QTableWidget>(*v, "RecientesLocal")->rowCount() > 0);
         QCOMPARE(Hijo<QTableWidget>(*v, "Clasificacion")->rowCount(), 20);
     }
@@ -118,15 +114,15 @@ class PruebaVentanaPrincipal : public QObject {
         QVERIFY(v->PaginaHabilitada(ui::kCondicion));
         QVERIFY(v->PaginaHabilitada(ui::kGenerar));
         QVERIFY(!v->PaginaHabilitada(ui::kReducir));
-        QCOMPARE(Texto(*v, "EtiquetaAlDirecto"), QStringLiteral(" 36"));
-        QCOMPARE(Texto(*v, "EtiquetaDobles"), QStringLiteral(" 2"));
-        QCOMPARE(Texto(*v, "EtiquetaTriples"), QStringLiteral(" 2"));
-        QCOMPARE(Texto(*v, "EtiquetaGuardada"), QStringLiteral("NO"));
+        QCOMPARE(pruebas::TextoDe(*v, "EtiquetaAlDirecto"), QStringLiteral(" 36"));
+        QCOMPARE(pruebas::TextoDe(*v, "EtiquetaDobles"), QStringLiteral(" 2"));
+        QCOMPARE(pruebas::TextoDe(*v, "EtiquetaTriples"), QStringLiteral(" 2"));
+        QCOMPARE(pruebas::TextoDe(*v, "EtiquetaGuardada"), QStringLiteral("NO"));
         // Quitar un signo de un partido que no tiene otro deja la base incompleta.
         pruebas::Pulsar(rejilla, 5, 2);
         QCOMPARE(rejilla->item(5, 2)->text(), QStringLiteral("1"));
         QVERIFY(!v->PaginaHabilitada(ui::kCondicion));
-        QCOMPARE(Texto(*v, "EtiquetaAlDirecto"), QString());
+        QCOMPARE(pruebas::TextoDe(*v, "EtiquetaAlDirecto"), QString());
     }
 
     void ElAvisoDelPlenoSaleUnaSolaVezYLaTeclaEquivocadaVaciaLaCelda() {
@@ -173,7 +169,7 @@ class PruebaVentanaPrincipal : public QObject {
             auto* max11 = Hijo<QComboBox>(*v, "MaxPareja0");
             emit max11->activated(max11->findData(12));
             QVERIFY(Hijo<QCheckBox>(*v, "Casilla3")->isChecked());
-            QCOMPARE(Texto(*v, "EtiquetaGuardada"), QStringLiteral("NO"));
+            QCOMPARE(pruebas::TextoDe(*v, "EtiquetaGuardada"), QStringLiteral("NO"));
 
             pruebas::Pagina(*v, ui::kGenerar);
             QCOMPARE(Hijo<QLabel>(*v, "ApuestasPosibles")->text(), QStringLiteral(" 36"));
@@ -182,8 +178,10 @@ class PruebaVentanaPrincipal : public QObject {
             pruebas::EsperarTrabajo(*v);
             condicionada = v->Combinacion().activasGeneradas;
             QCOMPARE(condicionada, ColumnasConComoMuchoUnaEquis(true));
-            QCOMPARE(Texto(*v, "ApuestasSeleccionadas"), QStringLiteral(" %1").arg(condicionada));
-            QCOMPARE(Texto(*v, "EtiquetaCondicionada"), QStringLiteral(" %1").arg(condicionada));
+            QCOMPARE(pruebas::TextoDe(*v, "ApuestasSeleccionadas"),
+                     QStringLiteral(" %1").arg(condicionada));
+            QCOMPARE(pruebas::TextoDe(*v, "EtiquetaCondicionada"),
+                     QStringLiteral(" %1").arg(condicionada));
             QVERIFY(Hijo<QPushButton>(*v, "BotonInfoGenerar")->isEnabled());
             QVERIFY(v->PaginaHabilitada(ui::kReducir));
 
@@ -196,16 +194,16 @@ class PruebaVentanaPrincipal : public QObject {
             QCOMPARE(inst.reductor.reducciones, 1);
             reducida = v->Combinacion().activasReducidas;
             QVERIFY(reducida > 0 && reducida < condicionada);
-            QCOMPARE(Texto(*v, "EtiquetaAl12"), QStringLiteral(" %1").arg(reducida));
-            QCOMPARE(Texto(*v, "EtiquetaAl13"), QString());
+            QCOMPARE(pruebas::TextoDe(*v, "EtiquetaAl12"), QStringLiteral(" %1").arg(reducida));
+            QCOMPARE(pruebas::TextoDe(*v, "EtiquetaAl13"), QString());
             QCOMPARE(fs::file_size(inst.trabajo / "Red.tmp"),
                      static_cast<std::uintmax_t>(17 * reducida));
 
             inst.dialogo.Responder(std::optional<fs::path>(ruta));
             Hijo<QAction>(*v, "AccionGuardarComo")->trigger();
             QCOMPARE(fs::file_size(ruta), std::uintmax_t{5189});
-            QCOMPARE(Texto(*v, "EtiquetaGuardada"), QStringLiteral("SI"));
-            QCOMPARE(Texto(*v, "EtiquetaNombre"), QStringLiteral("Ejemplo"));
+            QCOMPARE(pruebas::TextoDe(*v, "EtiquetaGuardada"), QStringLiteral("SI"));
+            QCOMPARE(pruebas::TextoDe(*v, "EtiquetaNombre"), QStringLiteral("Ejemplo"));
             QVERIFY(Hijo<QAction>(*v, "AccionReciente1")->isVisible());
             QCOMPARE(Hijo<QAction>(*v, "AccionReciente1")->text().toStdString(),
                      engine::TituloReciente(ruta.string()));
@@ -220,8 +218,9 @@ class PruebaVentanaPrincipal : public QObject {
         QCOMPARE(despues.activasReducidas, reducida);
         QVERIFY(despues.base == antes.base);
         QVERIFY(despues.condiciones == antes.condiciones);
-        QCOMPARE(Texto(*v, "EtiquetaCondicionada"), QStringLiteral(" %1").arg(condicionada));
-        QCOMPARE(Texto(*v, "EtiquetaAl12"), QStringLiteral(" %1").arg(reducida));
+        QCOMPARE(pruebas::TextoDe(*v, "EtiquetaCondicionada"),
+                 QStringLiteral(" %1").arg(condicionada));
+        QCOMPARE(pruebas::TextoDe(*v, "EtiquetaAl12"), QStringLiteral(" %1").arg(reducida));
         QCOMPARE(Hijo<QComboBox>(*v, "ListaJornadas")->currentText(), QStringLiteral("25"));
         QVERIFY(v->PaginaHabilitada(ui::kReducir));
     }
@@ -325,7 +324,7 @@ class PruebaVentanaPrincipal : public QObject {
         for (int p = 0; p < 14; ++p)
             for (int s = 2; s <= 4; ++s) pruebas::Pulsar(rejilla, p, s);
         pruebas::PonerBase(*v, {}, '0', '0');
-        QCOMPARE(Texto(*v, "EtiquetaAlDirecto"), QStringLiteral(" 4.782.969"));
+        QCOMPARE(pruebas::TextoDe(*v, "EtiquetaAlDirecto"), QStringLiteral(" 4.782.969"));
         pruebas::Pagina(*v, ui::kGenerar);
         QTest::mouseClick(Hijo<QPushButton>(*v, "BotonGenerar"), Qt::LeftButton);
         QVERIFY(v->Trabajo().EnCurso());
@@ -340,9 +339,12 @@ class PruebaVentanaPrincipal : public QObject {
         QVERIFY(total < 4782969);
         QCOMPARE(fs::file_size(inst.trabajo / "Cmb.tmp"),
                  static_cast<std::uintmax_t>(17) * static_cast<std::uintmax_t>(total));
-        QCOMPARE(Texto(*v, "ApuestasSeleccionadas").remove(QLatin1Char('.')).trimmed().toInt(),
+        QCOMPARE(pruebas::TextoDe(*v, "ApuestasSeleccionadas")
+                     .remove(QLatin1Char('.'))
+                     .trimmed()
+                     .toInt(),
                  total);
-        QCOMPARE(Texto(*v, "EtiquetaCondicionada"), QString());
+        QCOMPARE(pruebas::TextoDe(*v, "EtiquetaCondicionada"), QString());
         QVERIFY(!v->PaginaHabilitada(ui::kReducir));
         QVERIFY(v->menuBar()->isEnabled());
         QVERIFY(!detener->isEnabled());

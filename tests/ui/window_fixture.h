@@ -1,9 +1,11 @@
 #pragma once
 
+#include <QAction>
 #include <QComboBox>
 #include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QTableWidget>
 #include <QtTest>
 #include <filesystem>
@@ -104,6 +106,63 @@ inline void BaseDeEjemplo(ui::VentanaPrincipal& v) {
 
 inline void EsperarTrabajo(ui::VentanaPrincipal& v) {
     QTRY_VERIFY_WITH_TIMEOUT(!v.Trabajo().EnCurso(), 60000);
+}
+
+// Lo que se mostró o preguntó desde la marca, sin los diálogos de archivos y carpetas.
+inline std::vector<std::string> Dichos(const DialogoGuionado& dialogo, std::size_t marca = 0) {
+    std::vector<std::string> textos;
+    const auto& registro = dialogo.Registro();
+    for (std::size_t i = marca; i < registro.size(); ++i) {
+        const auto& tipo = registro[i].tipo;
+        if (tipo != "ArchivoParaAbrir" && tipo != "ArchivoParaGuardar" && tipo != "Carpeta")
+            textos.push_back(registro[i].texto);
+    }
+    return textos;
+}
+
+// Un clic en el botón de ese nombre.
+inline void Pulsar(QObject& madre, const char* boton) {
+    QTest::mouseClick(Hijo<QPushButton>(madre, QString::fromLatin1(boton)), Qt::LeftButton);
+}
+
+inline void Marcar(ui::VentanaPrincipal& v, const char* opcion) {
+    auto* r = Hijo<QRadioButton>(v, QString::fromLatin1(opcion));
+    QTest::mouseClick(r, Qt::LeftButton, {}, QPoint(8, r->height() / 2));
+}
+
+// Genera la base de ejemplo (36 columnas, sin condiciones) y la reduce al 13 con el reductor de
+// prueba; si se pide, más signos en el partido 5 (108 columnas).
+inline std::unique_ptr<ui::VentanaPrincipal> Reducida(Instalacion& inst, bool grande = false) {
+    auto v = inst.Ventana();
+    ElegirJornada(*v, 25);
+    BaseDeEjemplo(*v);
+    if (grande) {
+        auto* rejilla = Hijo<QTableWidget>(*v, QStringLiteral("RejillaBase"));
+        Pulsar(rejilla, 4, 3);
+        Pulsar(rejilla, 4, 4);
+    }
+    Pagina(*v, ui::kGenerar);
+    Pulsar(*v, "BotonGenerar");
+    EsperarTrabajo(*v);
+    Pagina(*v, ui::kReducir);
+    Pulsar(*v, "BotonReducir");
+    EsperarTrabajo(*v);
+    return v;
+}
+
+// La misma Combinación guardada y abierta de nuevo, como la encuentra el usuario otro día.
+inline std::unique_ptr<ui::VentanaPrincipal> Guardada(Instalacion& inst,
+                                                      const std::filesystem::path& ruta,
+                                                      bool grande = false) {
+    {
+        auto v = Reducida(inst, grande);
+        inst.dialogo.Responder(std::optional<std::filesystem::path>(ruta));
+        Hijo<QAction>(*v, "AccionGuardarComo")->trigger();
+        if (!v->close()) qFatal("La ventana no se cierra");
+    }
+    auto v = inst.Ventana(ruta);
+    Pagina(*v, ui::kBoletos);
+    return v;
 }
 
 }  // namespace quinteva::pruebas
