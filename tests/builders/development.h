@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -48,32 +49,28 @@ struct Desarrollo {
     }
 };
 
-// Verdadero si cada columna desarrollada está a "radio" o menos de alguna reducida: se marcan
-// los códigos de las reducidas y se mira el entorno de cada desarrollada.
+// Verdadero si cada columna desarrollada está a "radio" o menos de alguna reducida: se marca el
+// entorno de cada reducida en un mapa de los 3^14 códigos y se mira cada desarrollada.
 inline bool Cubre(const std::vector<engine::RegistroColumna>& reducidas,
                   const std::vector<engine::RegistroColumna>& desarrolladas, int radio) {
-    std::vector<bool> guardada(engine::kCodigosColumna, false);
-    for (const auto& r : reducidas) {
-        guardada[static_cast<std::size_t>(engine::CodigoColumna(r.columna))] = true;
-    }
-    const auto cerca = [&](auto&& self, engine::Columna c, int desde, int quedan) -> bool {
-        if (guardada[static_cast<std::size_t>(engine::CodigoColumna(c))]) return true;
-        if (quedan == 0) return false;
+    std::vector<bool> cubierta(engine::kCodigosColumna, false);
+    const auto marcar = [&](auto&& self, engine::Columna c, int desde, int quedan) -> void {
+        cubierta[static_cast<std::size_t>(engine::CodigoColumna(c))] = true;
+        if (quedan == 0) return;
         for (int p = desde; p < engine::kPartidos; ++p) {
             const char propio = c[static_cast<std::size_t>(p)];
             for (const char otro : engine::kSignos) {
                 if (otro == propio) continue;
                 c[static_cast<std::size_t>(p)] = otro;
-                if (self(self, c, p + 1, quedan - 1)) return true;
-                c[static_cast<std::size_t>(p)] = propio;
+                self(self, c, p + 1, quedan - 1);
             }
+            c[static_cast<std::size_t>(p)] = propio;
         }
-        return false;
     };
-    for (const auto& d : desarrolladas) {
-        if (!cerca(cerca, d.columna, 0, radio)) return false;
-    }
-    return true;
+    for (const auto& r : reducidas) marcar(marcar, r.columna, 0, radio);
+    return std::all_of(desarrolladas.begin(), desarrolladas.end(), [&](const auto& d) {
+        return cubierta[static_cast<std::size_t>(engine::CodigoColumna(d.columna))];
+    });
 }
 
 }  // namespace quinteva::pruebas
