@@ -11,6 +11,7 @@
 #include "base/record_files.h"
 #include "engine/columns.h"
 #include "engine/combination.h"
+#include "ui/report_grid.h"
 
 namespace quinteva::ui {
 
@@ -53,18 +54,7 @@ VentanaListado::VentanaListado(const QString& rotulo, const std::filesystem::pat
         this);
     aviso->setWordWrap(true);
     caja->addWidget(aviso);
-    auto* botones = new QHBoxLayout;
-    // La impresión llega con las demás.
-    auto* imprimir = new QPushButton(QStringLiteral("&Imprimir"), this);
-    imprimir->setObjectName(QStringLiteral("BotonImprimir"));
-    imprimir->setEnabled(false);
-    auto* salir = new QPushButton(QStringLiteral("&Salir"), this);
-    salir->setObjectName(QStringLiteral("BotonSalir"));
-    botones->addWidget(imprimir);
-    botones->addStretch();
-    botones->addWidget(salir);
-    caja->addLayout(botones);
-    connect(salir, &QPushButton::clicked, this, &QDialog::accept);
+    BotonesListado(this, caja);
     connect(barra_, &QScrollBar::valueChanged, this, &VentanaListado::Escrol);
     Escrol();
 }

@@ -42,18 +42,7 @@ VentanaColumnasAcertadas::VentanaColumnasAcertadas(
     r->horizontalHeader()->setStretchLastSection(true);
     r->setMinimumSize(3 * ancho + 30, r->verticalHeader()->defaultSectionSize() * 14);
     caja->addWidget(r);
-    auto* botones = new QHBoxLayout;
-    // La impresión llega con las demás.
-    auto* imprimir = new QPushButton(QStringLiteral("&Imprimir"), this);
-    imprimir->setObjectName(QStringLiteral("BotonImprimir"));
-    imprimir->setEnabled(false);
-    auto* salir = new QPushButton(QStringLiteral("&Salir"), this);
-    salir->setObjectName(QStringLiteral("BotonSalir"));
-    botones->addWidget(imprimir);
-    botones->addStretch();
-    botones->addWidget(salir);
-    caja->addLayout(botones);
-    connect(salir, &QPushButton::clicked, this, &QDialog::accept);
+    BotonesListado(this, caja);
 }
 
 }  // namespace quinteva::ui

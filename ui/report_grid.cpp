@@ -2,6 +2,7 @@
 
 #include <QDialog>
 #include <QDialogButtonBox>
+#include <QHBoxLayout>
 #include <QHeaderView>
 #include <QPushButton>
 #include <QTableWidget>
@@ -40,6 +41,20 @@ void BotonAceptar(QDialog* ventana, QVBoxLayout* caja) {
     QObject::connect(botones, &QDialogButtonBox::accepted, ventana, &QDialog::accept);
     caja->addWidget(botones);
     aceptar->setFocus();
+}
+
+void BotonesListado(QDialog* ventana, QVBoxLayout* caja) {
+    auto* botones = new QHBoxLayout;
+    auto* imprimir = new QPushButton(QStringLiteral("&Imprimir"), ventana);
+    imprimir->setObjectName(QStringLiteral("BotonImprimir"));
+    imprimir->setEnabled(false);
+    auto* salir = new QPushButton(QStringLiteral("&Salir"), ventana);
+    salir->setObjectName(QStringLiteral("BotonSalir"));
+    botones->addWidget(imprimir);
+    botones->addStretch();
+    botones->addWidget(salir);
+    caja->addLayout(botones);
+    QObject::connect(salir, &QPushButton::clicked, ventana, &QDialog::accept);
 }
 
 }  // namespace quinteva::ui

@@ -18,5 +18,8 @@ QTableWidget* RejillaInforme(QWidget* madre, const QString& nombre, int filas,
 QTableWidgetItem* CeldaInforme(const QString& texto, bool negrita, bool derecha);
 // "&Aceptar" que cierra la ventana, con el foco al abrirse.
 void BotonAceptar(QDialog* ventana, QVBoxLayout* caja);
+// La fila de los listados: "&Imprimir" (deshabilitado: la impresión llega con las demás) y
+// "&Salir", que cierra la ventana.
+void BotonesListado(QDialog* ventana, QVBoxLayout* caja);
 
 }  // namespace quinteva::ui

@@ -48,7 +48,7 @@ bool SinRepetidas(const Codigo& c) {
     return std::set<Palabra>(c.filas.begin(), c.filas.end()).size() == c.filas.size();
 }
 
-Codigo Todo(const Espacio& e) {
+Codigo EspacioEntero(const Espacio& e) {
     Codigo c{e, {}};
     for (std::int64_t i = 0; i < e.Palabras(); ++i) c.filas.push_back(e.DeIndice(i));
     return c;

@@ -18,8 +18,8 @@ struct Codigo {
 std::vector<std::int64_t> NoCubiertas(const Codigo& c, int radio);
 bool SinRepetidas(const Codigo& c);
 
-// Todas las palabras del espacio (radio 0) y una sola palabra (radio >= lugares).
-Codigo Todo(const Espacio& e);
+// Todas las palabras del espacio (el código de radio 0) y una sola palabra (radio >= lugares).
+Codigo EspacioEntero(const Espacio& e);
 Codigo UnaPalabra(const Espacio& e);
 
 // Suma directa: los radios se suman y los tamaños se multiplican. Triples de a, triples de b,

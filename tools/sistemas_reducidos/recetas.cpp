@@ -38,8 +38,8 @@ Receta Tabu(int triples, int dobles, int radio, int filas) {
     };
 }
 
-Receta Todo(int triples, int dobles) {
-    return [=] { return sistemas::Todo(Espacio(triples, dobles)); };
+Receta Entero(int triples, int dobles) {
+    return [=] { return sistemas::EspacioEntero(Espacio(triples, dobles)); };
 }
 
 Receta GolayTernario() {
@@ -80,7 +80,7 @@ std::vector<Sistema> Sistemas() {
         {13, 1, 6, 24, Tabu(1, 6, 1, 24)},
         {13, 2, 2, 6, Tabu(2, 2, 1, 6)},
         {13, 2, 5, 36, Tabu(2, 5, 1, 36)},
-        {13, 2, 7, 128, Suma(Todo(0, 1), Tabu(2, 6, 1, 64))},
+        {13, 2, 7, 128, Suma(Entero(0, 1), Tabu(2, 6, 1, 64))},
         {13, 3, 0, 5, Filas(3, 0, {"1X2", "X11", "221", "X2X", "21X"})},
         {13, 3, 3, 24, Tabu(3, 3, 1, 24)},
         {13, 4, 0, 9, Tabu(4, 0, 1, 9)},
