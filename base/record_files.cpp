@@ -10,7 +10,8 @@
 namespace quinteva::base {
 namespace {
 
-constexpr std::size_t kBufer = 1 << 20;
+// 64 KiB: cabe en la caché junto a lo que se hace con los registros.
+constexpr std::size_t kBufer = 1 << 16;
 
 std::FILE* AbrirCreando(const std::filesystem::path& ruta) {
     std::FILE* f = std::fopen(ruta.c_str(), "r+b");

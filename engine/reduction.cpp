@@ -50,26 +50,25 @@ ResultadoReduccion ReducirConCondiciones(Combinacion& comb,
     base::LectorRegistros cmb(carpetaTrabajo / kCmbTmp, RegistroColumna::kLongitud);
     if (cmb.Cuenta() < comb.totalGeneradas) throw base::Error("Número de registro incorrecto");
 
+    // Cada guardada se escribe en cuanto se guarda: con "&Detener", lo escrito es lo guardado.
+    base::AnexadorRegistros red(carpetaTrabajo / kRedTmp, RegistroColumna::kLongitud);
+    RegistroColumna guardada{{}, comb.pleno, kActiva};
     Recubrimiento recubrimiento(distancia);
     ResultadoReduccion resultado;
     for (std::int32_t n = 1; n <= comb.totalGeneradas; ++n) {
         const auto bytes = cmb.Siguiente();
-        Columna columna;
-        std::copy_n(bytes.begin(), kPartidos, columna.begin());
-        if (!recubrimiento.Considerar(columna)) continue;
+        const SignosColumna signos(reinterpret_cast<const Signo*>(bytes.data()), kPartidos);
+        if (!recubrimiento.Considerar(signos)) continue;
+        std::ranges::copy(signos, guardada.columna.begin());
+        red.Anadir(guardada.ABytes());
         progreso.Avance(n, comb.totalGeneradas);
         if (n < comb.totalGeneradas && progreso.Detenido()) {
             resultado.detenida = true;
             break;
         }
     }
-
-    base::AnexadorRegistros red(carpetaTrabajo / kRedTmp, RegistroColumna::kLongitud);
-    for (const Columna& c : recubrimiento.Guardadas()) {
-        red.Anadir(RegistroColumna{c, comb.pleno, kActiva}.ABytes());
-    }
     red.Cerrar();
-    resultado.reducidas = static_cast<std::int32_t>(recubrimiento.Guardadas().size());
+    resultado.reducidas = red.Cuenta();
     TerminarReduccion(comb, distancia, resultado.reducidas, ajustes);
     return resultado;
 }

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <random>
 #include <string>
 #include <vector>
@@ -82,6 +83,33 @@ TEST(CodigoColumna, BaseTresYSinCodigoSiNoEsSigno) {
     EXPECT_EQ(CodigoColumna(ColumnaDeTexto("X1111111111111")), 1594323);
     EXPECT_EQ(CodigoColumna(ColumnaDeTexto("22222222222222")), kCodigosColumna - 1);
     EXPECT_EQ(CodigoColumna(ColumnaDeTexto("1111111111111x")), -1);
+}
+
+// El código se saca de ocho caracteres a la vez: se compara con el cálculo signo a signo en
+// columnas al azar, y cada uno de los 256 bytes en cada partido solo vale si es un signo.
+TEST(CodigoColumna, IgualQueSignoASignoYCadaByteEnCadaPartido) {
+    const auto signoASigno = [](const Columna& c) {
+        std::int32_t codigo = 0;
+        for (const Signo s : c) {
+            const auto* signo = std::find(kSignos.begin(), kSignos.end(), s);
+            if (signo == kSignos.end()) return -1;
+            codigo = codigo * 3 + static_cast<std::int32_t>(signo - kSignos.begin());
+        }
+        return codigo;
+    };
+    std::mt19937 azar(7);
+    for (int i = 0; i < 20000; ++i) {
+        Columna c;
+        for (Signo& s : c) s = kSignos[azar() % 3];
+        ASSERT_EQ(CodigoColumna(c), signoASigno(c));
+    }
+    for (std::size_t p = 0; p < kPartidos; ++p) {
+        for (int byte = 0; byte < 256; ++byte) {
+            Columna c = ColumnaDeTexto("1X21X21X21X21X");
+            c[p] = static_cast<Signo>(byte);
+            ASSERT_EQ(CodigoColumna(c), signoASigno(c)) << "partido " << p << ", byte " << byte;
+        }
+    }
 }
 
 TEST(ReducirConCondiciones, IgualQuePorRondasEnListasAlAzar) {
