@@ -6,6 +6,7 @@
 #include <stdexcept>
 #include <string>
 
+#include "clases_laterales.h"
 #include "golay.h"
 #include "tabu.h"
 
@@ -35,6 +36,17 @@ Receta Tabu(int triples, int dobles, int radio, int filas) {
             throw std::runtime_error("la búsqueda no llegó a " + std::to_string(filas) + " filas");
         }
         return hallados.emplace(clave, *c).first->second;
+    };
+}
+
+// Matrices que se prueban, con la semilla 1, para una unión de clases laterales.
+constexpr int kMatrices = 100000;
+
+Receta ClasesLaterales(int triples, int dobles, int radio, FormaSindrome forma) {
+    return [=] {
+        auto c = BuscarClasesLaterales(Espacio(triples, dobles), radio, forma, 1, kMatrices);
+        if (!c) throw std::runtime_error("ninguna matriz da un código con esas clases");
+        return *c;
     };
 }
 
@@ -119,7 +131,7 @@ std::vector<Sistema> Sistemas() {
         {11, 3, 3, 3, Tabu(3, 3, 3, 3)},
         {11, 3, 5, 8, Tabu(3, 5, 3, 8)},
         {11, 3, 6, 12, Tabu(3, 6, 3, 12)},
-        {11, 3, 8, 32, Amalgamada(Tabu(2, 2, 1, 6), 2, Tabu(1, 7, 2, 12), 1, 0, 3)},
+        {11, 3, 8, 32, ClasesLaterales(3, 8, 3, {3, 5, 4})},
         {11, 4, 1, 3, Tabu(4, 1, 3, 3)},
         {11, 4, 3, 6, Tabu(4, 3, 3, 6)},
         {11, 4, 5, 16, Tabu(4, 5, 3, 16)},
