@@ -1,6 +1,7 @@
-// Firma de la generación: para bases y condiciones fijas, la cuenta de columnas escritas y una
-// suma de comprobación (FNV-1a de 64 bits de "Cmb.tmp") iguales a las guardadas, que se
-// calcularon una vez con el filtro literal.
+// Firmas de lo que se mide: para bases y condiciones fijas, la cuenta de columnas escritas y una
+// suma de comprobación (FNV-1a de 64 bits del archivo) iguales a las guardadas, que se calcularon
+// una vez con los algoritmos literales: el filtro para "Cmb.tmp" y el recubrimiento por rondas
+// para "Red.tmp".
 #include <gtest/gtest.h>
 
 #include <fstream>
@@ -9,7 +10,9 @@
 #include "base/progress.h"
 #include "bench/generation_cases.h"
 #include "engine/generation.h"
+#include "engine/reduction.h"
 #include "tests/engine/literal_filter.h"
+#include "tests/support/literal_cover.h"
 #include "tests/support/memory_settings.h"
 #include "tests/support/temp_folder.h"
 
@@ -45,18 +48,29 @@ SetCondiciones CondicionesDe(const QuinielaBase& base, int cual) {
     return c;
 }
 
-Firma Generada(const QuinielaBase& base, const SetCondiciones& c) {
+std::string Bytes(const std::filesystem::path& ruta) {
+    std::ifstream f(ruta, std::ios::binary);
+    return {std::istreambuf_iterator<char>(f), std::istreambuf_iterator<char>()};
+}
+
+// Una Combinación generada en su carpeta.
+struct Generacion {
     pruebas::CarpetaTemporal carpeta;
     pruebas::AjustesEnMemoria ajustes;
     Combinacion comb;
-    comb.base = base;
-    comb.pleno = base.Pleno();
-    comb.condiciones = c;
-    base::SinProgreso progreso;
-    Generar(comb, carpeta.Ruta(), progreso, ajustes);
-    std::ifstream f(carpeta / "Cmb.tmp", std::ios::binary);
-    const std::string bytes{std::istreambuf_iterator<char>(f), std::istreambuf_iterator<char>()};
-    return {comb.totalGeneradas, Fnv(bytes)};
+
+    Generacion(const QuinielaBase& base, const SetCondiciones& c) {
+        comb.base = base;
+        comb.pleno = base.Pleno();
+        comb.condiciones = c;
+        base::SinProgreso progreso;
+        Generar(comb, carpeta.Ruta(), progreso, ajustes);
+    }
+};
+
+Firma Generada(const QuinielaBase& base, const SetCondiciones& c) {
+    const Generacion g(base, c);
+    return {g.comb.totalGeneradas, Fnv(Bytes(g.carpeta / "Cmb.tmp"))};
 }
 
 // La misma firma con el recorrido literal: todas las columnas en orden y el filtro literal.
@@ -105,6 +119,57 @@ TEST(FirmaGeneracion, LaGuardadaEsLaDelFiltroLiteral) {
         const Firma f = Literal(base, CondicionesDe(base, caso.condiciones));
         EXPECT_EQ(f, caso.esperada) << caso.base << " / " << caso.condiciones << " " << f.columnas
                                     << std::hex << " 0x" << f.suma;
+    }
+}
+
+struct CasoReduccion {
+    int caso;  // en kCasos
+    int distancia;
+    Firma esperada;
+};
+
+const CasoReduccion kReducciones[] = {
+    {0, 1, {2920, 0xca883acb0ccaa7c7ULL}}, {0, 2, {364, 0xee6f3136527fc119ULL}},
+    {0, 3, {108, 0xd53af055e9457befULL}},  {1, 1, {1314, 0x3ad3251201f423b6ULL}},
+    {1, 2, {239, 0x8a6dae284d61a88eULL}},  {1, 3, {79, 0x6c66a6b90bc66f6bULL}},
+};
+
+Generacion GeneracionDe(const CasoReduccion& r) {
+    const Caso& caso = kCasos[r.caso];
+    const QuinielaBase base = medicion::BaseDe(caso.base);
+    return Generacion(base, CondicionesDe(base, caso.condiciones));
+}
+
+TEST(FirmaReduccion, IgualALaGuardada) {
+    for (const CasoReduccion& r : kReducciones) {
+        Generacion g = GeneracionDe(r);
+        base::SinProgreso progreso;
+        const auto n =
+            ReducirConCondiciones(g.comb, g.carpeta.Ruta(), r.distancia, progreso, g.ajustes)
+                .reducidas;
+        const Firma f{n, Fnv(Bytes(g.carpeta / "Red.tmp"))};
+        EXPECT_EQ(f, r.esperada) << r.caso << " al " << 14 - r.distancia << " " << f.columnas
+                                 << std::hex << " 0x" << f.suma;
+    }
+}
+
+// Cómo se obtuvieron los valores guardados: el recubrimiento por rondas da lo mismo.
+TEST(FirmaReduccion, LaGuardadaEsLaDelRecubrimientoPorRondas) {
+    for (const CasoReduccion& r : kReducciones) {
+        const Generacion g = GeneracionDe(r);
+        const std::string cmb = Bytes(g.carpeta / "Cmb.tmp");
+        std::vector<std::string> columnas;
+        for (std::size_t i = 0; i + RegistroColumna::kLongitud <= cmb.size();
+             i += RegistroColumna::kLongitud) {
+            columnas.push_back(cmb.substr(i, kPartidos));
+        }
+        std::string red;
+        for (const auto& c : pruebas::ReducirPorRondas(columnas, r.distancia)) {
+            red += c + TextoDePleno(g.comb.pleno) + "0";
+        }
+        const Firma f{static_cast<std::int64_t>(red.size() / RegistroColumna::kLongitud), Fnv(red)};
+        EXPECT_EQ(f, r.esperada) << r.caso << " al " << 14 - r.distancia << " " << f.columnas
+                                 << std::hex << " 0x" << f.suma;
     }
 }
 
