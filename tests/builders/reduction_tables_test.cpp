@@ -11,6 +11,7 @@
 #include "tests/builders/development.h"
 #include "tests/builders/larger_systems.h"
 #include "tests/support/counting_progress.h"
+#include "tests/support/fnv.h"
 
 namespace quinteva::builders {
 namespace {
@@ -269,6 +270,26 @@ TEST(FiltrarPorPatrones, IgualQueUnoAUnoAlAzar) {
         EXPECT_EQ(n, static_cast<std::int32_t>(red.size()));
         EXPECT_EQ(progreso.Avances(), 3000);
     }
+}
+
+// Firma de lo que se mide: once triples "al 12", la cuenta y la suma de "Red.tmp", que son las de
+// filtrar los registros uno a uno con los patrones del sistema.
+TEST(FirmaReduccionPorTablas, OnceTriplesAlDoce) {
+    Desarrollo d(11, 0);
+    ClaseBase clases{};
+    pruebas::ProgresoContador progreso;
+    const auto r = ReducirPorTablas(d.combinacion, d.carpeta.Ruta(), 12, std::nullopt, clases,
+                                    progreso, d.ajustes);
+    const auto red = d.Leer("Red.tmp");
+    std::string bytes;
+    for (const auto& registro : red) {
+        const auto b = registro.ABytes();
+        bytes.append(b.begin(), b.end());
+    }
+    EXPECT_EQ(r.reduccion.reducidas, 729);
+    EXPECT_EQ(pruebas::Fnv(bytes), 0xaa127381227f5592ULL) << std::hex << pruebas::Fnv(bytes);
+    const auto patrones = PatronesReducidos(*ElegirSistema(12, 11, 0), clases);
+    EXPECT_EQ(red, FiltrarUnoAUno(patrones, d.Leer("Cmb.tmp")));
 }
 
 TEST(PatronesReducidos, LosDoblesSeTraducenSegunSuClase) {

@@ -12,6 +12,7 @@
 #include "engine/generation.h"
 #include "engine/reduction.h"
 #include "tests/engine/literal_filter.h"
+#include "tests/support/fnv.h"
 #include "tests/support/literal_cover.h"
 #include "tests/support/memory_settings.h"
 #include "tests/support/temp_folder.h"
@@ -19,17 +20,13 @@
 namespace quinteva::engine {
 namespace {
 
+using pruebas::Fnv;
+
 struct Firma {
     std::int64_t columnas;
     std::uint64_t suma;
     friend bool operator==(const Firma&, const Firma&) = default;
 };
-
-std::uint64_t Fnv(const std::string& bytes) {
-    std::uint64_t h = 1469598103934665603ULL;
-    for (unsigned char c : bytes) h = (h ^ c) * 1099511628211ULL;
-    return h;
-}
 
 struct Caso {
     const char* base;
