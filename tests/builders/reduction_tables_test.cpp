@@ -135,12 +135,17 @@ TEST(ElegirSistema, PorNivelTriplesYDobles) {
     EXPECT_EQ(ElegirSistema(12, 3, 0), nullptr);
 }
 
+// ReducirPorTablas sobre todo el desarrollo, sin selección de partidos.
+ResultadoTablas ReducirDesarrollo(Desarrollo& d, int nivel, ClaseBase& clases) {
+    pruebas::ProgresoContador progreso;
+    return ReducirPorTablas(d.combinacion, d.carpeta.Ruta(), nivel, std::nullopt, clases, progreso,
+                            d.ajustes);
+}
+
 TEST(ReducirPorTablas, DosDoblesAlTreceNoTieneSistema) {
     Desarrollo d(0, 2);
     ClaseBase clases{};
-    pruebas::ProgresoContador progreso;
-    const auto r = ReducirPorTablas(d.combinacion, d.carpeta.Ruta(), 13, std::nullopt, clases,
-                                    progreso, d.ajustes);
+    const auto r = ReducirDesarrollo(d, 13, clases);
     EXPECT_TRUE(r.sinSistema);
     EXPECT_FALSE(std::filesystem::exists(d.carpeta / "Red.tmp"));
     EXPECT_EQ(d.combinacion.panel.reducidas, (std::array<std::optional<std::int32_t>, 4>{}));
@@ -151,9 +156,7 @@ TEST(ReducirPorTablas, SieteDoblesDan16YOchoDan32) {
     for (const auto& [dobles, esperadas] : {std::pair{7, 16}, std::pair{8, 32}}) {
         Desarrollo d(0, dobles);
         ClaseBase clases{};
-        pruebas::ProgresoContador progreso;
-        const auto r = ReducirPorTablas(d.combinacion, d.carpeta.Ruta(), 13, std::nullopt, clases,
-                                        progreso, d.ajustes);
+        const auto r = ReducirDesarrollo(d, 13, clases);
         EXPECT_EQ(r.reduccion.reducidas, esperadas);
         EXPECT_EQ(d.combinacion.panel.reducidas[0], esperadas);
         EXPECT_TRUE(pruebas::Cubre(d.Leer("Red.tmp"), d.Leer("Cmb.tmp"), 1));
@@ -163,9 +166,7 @@ TEST(ReducirPorTablas, SieteDoblesDan16YOchoDan32) {
 TEST(ReducirPorTablas, CincoTriplesAlTreceDejanLibreElQuinto) {
     Desarrollo d(5, 0);
     ClaseBase clases{};
-    pruebas::ProgresoContador progreso;
-    const auto r = ReducirPorTablas(d.combinacion, d.carpeta.Ruta(), 13, std::nullopt, clases,
-                                    progreso, d.ajustes);
+    const auto r = ReducirDesarrollo(d, 13, clases);
     EXPECT_EQ(r.reduccion.reducidas, 27);
     std::set<char> quinto;
     for (const auto& reg : d.Leer("Red.tmp")) {
@@ -277,9 +278,7 @@ TEST(FiltrarPorPatrones, IgualQueUnoAUnoAlAzar) {
 TEST(FirmaReduccionPorTablas, OnceTriplesAlDoce) {
     Desarrollo d(11, 0);
     ClaseBase clases{};
-    pruebas::ProgresoContador progreso;
-    const auto r = ReducirPorTablas(d.combinacion, d.carpeta.Ruta(), 12, std::nullopt, clases,
-                                    progreso, d.ajustes);
+    const auto r = ReducirDesarrollo(d, 12, clases);
     const auto red = d.Leer("Red.tmp");
     std::string bytes;
     for (const auto& registro : red) {

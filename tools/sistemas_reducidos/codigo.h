@@ -34,7 +34,7 @@ Codigo Amalgama(const Codigo& a, int la, const Codigo& b, int lb,
 // Añade con avidez la palabra que cubre más palabras sin cubrir hasta cubrir todo el espacio.
 Codigo Completar(Codigo c, int radio);
 
-// Quita, de la última a la primera, cada fila sin la que el código sigue cubriendo todo.
+// Quita, de la última a la primera, cada fila sin la que el código sigue cubriendo su espacio.
 Codigo Podar(Codigo c, int radio);
 
 // Añade palabras distintas, en el orden de su índice, hasta tener "filas" filas.

@@ -64,7 +64,7 @@ Receta Suma(Receta a, Receta b) {
 
 // Suma amalgamada sobre el lugar la de a y lb de b, con los símbolos de b en ese lugar
 // permutados (la permutación número "permutacion" en orden lexicográfico, o el cambio de "1" por
-// "X" en un doble), completada si no cubre todo y sin las filas que sobran.
+// "X" en un doble), completada si le quedan palabras sin cubrir y sin las filas que sobran.
 Receta Amalgamada(Receta a, int la, Receta b, int lb, int permutacion, int radio) {
     return [=] {
         const Codigo ca = a();
