@@ -110,9 +110,9 @@ AnexadorRegistros::~AnexadorRegistros() {
     }
 }
 
-void AnexadorRegistros::Anadir(std::span<const Byte> registro) {
+void AnexadorRegistros::AnadirVolcando(std::span<const Byte> registro) {
     if (registro.size() != longitud_) NumeroIncorrecto();
-    if (bufer_.size() + longitud_ > kBufer) Volcar();
+    if (bufer_.size() + longitud_ > bufer_.capacity()) Volcar();
     bufer_.insert(bufer_.end(), registro.begin(), registro.end());
     ++cuenta_;
 }
@@ -139,21 +139,16 @@ LectorRegistros::LectorRegistros(const std::filesystem::path& ruta, std::size_t 
     if (std::fseek(archivo_.get(), 0, SEEK_SET) != 0) FalloDeArchivo(ruta);
 }
 
-std::span<const Byte> LectorRegistros::Siguiente() {
+std::span<const Byte> LectorRegistros::Rellenar() {
     if (leidos_ >= cuenta_) return {};
-    if (posicion_ + longitud_ > bufer_.size()) {
-        // El búfer se rellena con registros enteros, así que siempre se ha gastado entero.
-        bufer_.resize(std::max<std::size_t>(1, kBufer / longitud_) * longitud_);
-        const std::size_t leidos = std::fread(bufer_.data(), 1, bufer_.size(), archivo_.get());
-        if (leidos < bufer_.size() && std::ferror(archivo_.get())) FalloDeArchivo(ruta_);
-        bufer_.resize(leidos);
-        posicion_ = 0;
-        if (bufer_.size() < longitud_) return {};
-    }
-    const std::span<const Byte> registro(bufer_.data() + posicion_, longitud_);
-    posicion_ += longitud_;
-    ++leidos_;
-    return registro;
+    // El búfer se rellena con registros enteros, así que siempre se ha gastado entero.
+    bufer_.resize(std::max<std::size_t>(1, kBufer / longitud_) * longitud_);
+    const std::size_t leidos = std::fread(bufer_.data(), 1, bufer_.size(), archivo_.get());
+    if (leidos < bufer_.size() && std::ferror(archivo_.get())) FalloDeArchivo(ruta_);
+    bufer_.resize(leidos);
+    posicion_ = 0;
+    if (bufer_.size() < longitud_) return {};
+    return Tomar();
 }
 
 }  // namespace quinteva::base

@@ -48,13 +48,21 @@ class AnexadorRegistros {
     AnexadorRegistros(const AnexadorRegistros&) = delete;
     AnexadorRegistros& operator=(const AnexadorRegistros&) = delete;
 
-    void Anadir(std::span<const Byte> registro);
+    void Anadir(std::span<const Byte> registro) {
+        if (registro.size() != longitud_ || bufer_.size() + longitud_ > bufer_.capacity()) {
+            AnadirVolcando(registro);
+            return;
+        }
+        bufer_.insert(bufer_.end(), registro.begin(), registro.end());
+        ++cuenta_;
+    }
     // Registros en el archivo, contando los que aún están en el búfer.
     std::int32_t Cuenta() const { return cuenta_; }
     // Vacía el búfer al disco; lanza Error si el disco no los aceptó.
     void Cerrar();
 
   private:
+    void AnadirVolcando(std::span<const Byte> registro);
     void Volcar();
 
     std::filesystem::path ruta_;
@@ -73,9 +81,21 @@ class LectorRegistros {
     std::int32_t Cuenta() const { return cuenta_; }
     // El siguiente registro, dentro del búfer (válido hasta la siguiente llamada); vacío cuando
     // ya no quedan.
-    std::span<const Byte> Siguiente();
+    std::span<const Byte> Siguiente() {
+        if (leidos_ < cuenta_ && posicion_ + longitud_ <= bufer_.size()) return Tomar();
+        return Rellenar();
+    }
 
   private:
+    std::span<const Byte> Tomar() {
+        const std::span<const Byte> registro(bufer_.data() + posicion_, longitud_);
+        posicion_ += longitud_;
+        ++leidos_;
+        return registro;
+    }
+    // Llena el búfer de nuevo y toma el primero; vacío si no quedan.
+    std::span<const Byte> Rellenar();
+
     std::filesystem::path ruta_;
     std::size_t longitud_;
     std::int32_t cuenta_ = 0;

@@ -1,50 +1,52 @@
 #include "engine/cover.h"
 
 #include <algorithm>
-#include <bit>
-#include <cstring>
+#include <utility>
 
 #include "engine/reduction.h"
 
 namespace quinteva::engine {
 namespace {
 
-constexpr std::uint64_t kUnos = 0x0101010101010101;
+// El código de una columna es (altos * 81 + medios) * 27 + bajos: los partidos 1 a 7, 8 a 11 y
+// 12 a 14. Cada palabra del mapa de bits guarda los 27 códigos de unos mismos altos y medios, uno
+// por bit, así que los vecinos que solo cambian en los bajos se marcan con una sola máscara.
+constexpr int kAltos = 7;
+constexpr int kMedios = 4;
+constexpr int kBajos = 3;
 
-// Las cifras de ocho caracteres a la vez, un byte cada una, y si los ocho son signos. La cifra
-// de "1" (0x31) es 0, la de "X" (0x58) 1 y la de "2" (0x32) 2: el bit 3 y el bit 1 del carácter;
-// ningún otro carácter es el que se rehace con esos dos bits.
-bool Cifras(std::uint64_t caracteres, std::uint64_t& cifras) {
-    const std::uint64_t x = (caracteres >> 3) & kUnos;
-    const std::uint64_t dos = caracteres & (kUnos << 1);
-    cifras = x | dos;
-    return caracteres == kUnos * '1' + x * ('X' - '1') + (dos >> 1) * ('2' - '1');
+constexpr std::int32_t CodigosDe(int lugares) {
+    std::int32_t codigos = 1;
+    for (int i = 0; i < lugares; ++i) codigos *= 3;
+    return codigos;
 }
 
-// El valor en base 3 de ocho cifras, la del primer byte la más significativa: se juntan de dos
-// en dos, de cuatro en cuatro y de ocho en ocho con tres multiplicaciones.
-std::int32_t BaseTres(std::uint64_t cifras) {
-    cifras = ((cifras * (1 + (3ULL << 8))) >> 8) & 0x00FF00FF00FF00FFULL;
-    cifras = ((cifras * (1 + (9ULL << 16))) >> 16) & 0x0000FFFF0000FFFFULL;
-    return static_cast<std::int32_t>((cifras * (1 + (81ULL << 32))) >> 32);
-}
+constexpr std::int32_t kCodigosMedios = CodigosDe(kMedios);
 
-constexpr int kMitad = kPartidos / 2;
-constexpr std::int32_t kPesoAlta = 2187;  // 3^7 códigos de una mitad: código = alta * 3^7 + baja
+// Cuántos códigos de "Lugares" cifras hay a distancia menor que r de uno dado, r = 0 a 4: los
+// que están a distancia exacta r son C(Lugares, r) * 2^r (14, 84 y 280 con siete lugares).
+template <int Lugares>
+constexpr std::array<std::size_t, kDistanciaMaxima + 2> kHasta = [] {
+    std::array<std::size_t, kDistanciaMaxima + 2> hasta{};
+    std::size_t exactos = 1;
+    for (std::size_t r = 0; r <= kDistanciaMaxima; ++r) {
+        hasta[r + 1] = hasta[r] + exactos;
+        exactos = exactos * (Lugares - r) * 2 / (r + 1);
+    }
+    return hasta;
+}();
 
-// Cuántos códigos de una mitad hay a distancia menor que r de uno dado: 1, 14, 84 y 280 a
-// distancia exacta 0, 1, 2 y 3.
-constexpr std::array<std::size_t, 5> kHasta = {0, 1, 15, 99, 379};
-
-// Para cada código de una mitad, los de distancia 0 a "distancia", ordenados por distancia:
-// con filas solo tan largas como hacen falta, la tabla de la distancia 1 cabe en la caché.
+// Para cada código de "Lugares" cifras, los de distancia 0 a "distancia", ordenados por
+// distancia: con filas solo tan largas como hacen falta, la tabla de la distancia 1 cabe en la
+// caché.
+template <int Lugares>
 class Vecinos {
   public:
     explicit Vecinos(int distancia)
         : distancia_(distancia),
-          fila_(kHasta[static_cast<std::size_t>(distancia + 1)]),
-          tabla_(static_cast<std::size_t>(kPesoAlta) * fila_) {
-        for (std::int32_t v = 0; v < kPesoAlta; ++v) {
+          fila_(kHasta<Lugares>[static_cast<std::size_t>(distancia + 1)]),
+          tabla_(static_cast<std::size_t>(kCodigos) * fila_) {
+        for (std::int32_t v = 0; v < kCodigos; ++v) {
             std::array<std::size_t, kDistanciaMaxima + 1> llenos{};
             Recorrer(v, v, 0, 0, llenos);
         }
@@ -68,22 +70,24 @@ class Vecinos {
         }
     }
 
-    // Los vecinos de "mitad" a distancia menor que "hasta".
-    std::span<const std::int16_t> De(std::int32_t mitad, int hasta) const {
-        return {tabla_.data() + static_cast<std::size_t>(mitad) * fila_,
-                kHasta[static_cast<std::size_t>(hasta)]};
+    // Los vecinos de "codigo" a distancia menor que "hasta".
+    std::span<const std::int16_t> De(std::int32_t codigo, int hasta) const {
+        return {tabla_.data() + static_cast<std::size_t>(codigo) * fila_,
+                kHasta<Lugares>[static_cast<std::size_t>(hasta)]};
     }
 
   private:
-    // Añade "codigo", a "cambiados" de "origen", y los que salen de cambiar partidos desde "desde".
+    static constexpr std::int32_t kCodigos = CodigosDe(Lugares);
+
+    // Añade "codigo", a "cambiados" de "origen", y los que salen de cambiar lugares desde "desde".
     void Recorrer(std::int32_t origen, std::int32_t codigo, int desde, int cambiados,
                   std::array<std::size_t, kDistanciaMaxima + 1>& llenos) {
         const auto r = static_cast<std::size_t>(cambiados);
-        tabla_[static_cast<std::size_t>(origen) * fila_ + kHasta[r] + llenos[r]++] =
+        tabla_[static_cast<std::size_t>(origen) * fila_ + kHasta<Lugares>[r] + llenos[r]++] =
             static_cast<std::int16_t>(codigo);
         if (cambiados == distancia_) return;
-        std::int32_t peso = kPesoAlta;
-        for (int p = 0; p < kMitad; ++p) {
+        std::int32_t peso = kCodigos;
+        for (int p = 0; p < Lugares; ++p) {
             peso /= 3;
             if (p < desde) continue;
             const int cifra = codigo / peso % 3;
@@ -98,6 +102,22 @@ class Vecinos {
     std::vector<std::int16_t> tabla_;
 };
 
+// Para cada código de los bajos, la máscara de los que están a distancia r o menos, r = 0 a 3.
+constexpr auto kMascarasBajas = [] {
+    std::array<std::array<std::uint32_t, kDistanciaMaxima + 1>, CodigosDe(kBajos)> mascaras{};
+    for (std::int32_t t = 0; t < CodigosDe(kBajos); ++t) {
+        for (std::int32_t u = 0; u < CodigosDe(kBajos); ++u) {
+            int distinto = 0;
+            for (std::int32_t a = t, b = u; a > 0 || b > 0; a /= 3, b /= 3)
+                distinto += a % 3 != b % 3;
+            for (int r = distinto; r <= kDistanciaMaxima; ++r) {
+                mascaras[static_cast<std::size_t>(t)][static_cast<std::size_t>(r)] |= 1U << u;
+            }
+        }
+    }
+    return mascaras;
+}();
+
 Columna ColumnaDeCodigo(std::int32_t codigo) {
     Columna columna;
     for (auto s = columna.rbegin(); s != columna.rend(); ++s, codigo /= 3) {
@@ -108,43 +128,35 @@ Columna ColumnaDeCodigo(std::int32_t codigo) {
 
 }  // namespace
 
-// Los catorce caracteres se leen en dos trozos de ocho que se solapan en los partidos 7 y 8; del
-// segundo se quitan esas dos cifras.
-std::int32_t CodigoColumna(SignosColumna signos) {
-    static_assert(std::endian::native == std::endian::little);
-    std::uint64_t primeros = 0;
-    std::uint64_t ultimos = 0;
-    std::memcpy(&primeros, signos.data(), 8);
-    std::memcpy(&ultimos, signos.data() + kPartidos - 8, 8);
-    std::uint64_t cifrasPrimeros = 0;
-    std::uint64_t cifrasUltimos = 0;
-    const bool validos = Cifras(primeros, cifrasPrimeros);
-    if (!(Cifras(ultimos, cifrasUltimos) && validos)) return -1;
-    return BaseTres(cifrasPrimeros) * 729 + BaseTres(cifrasUltimos & ~0xFFFFULL);
-}
-
 Recubrimiento::Recubrimiento(int distancia)
-    : distancia_(distancia), marcadas_((kCodigosColumna + 63) / 64, 0) {}
+    : distancia_(distancia), marcadas_(kCodigosColumna / kPorPalabra, 0) {}
 
-// Cada código a la distancia es una mitad alta a distancia a y una baja a distancia menor que
-// distancia - a + 1 de las de la columna.
+// Cada código a la distancia cambia a lugares de los altos, m de los medios y el resto, hasta
+// la distancia, de los bajos: la palabra de unos altos a distancia a y unos medios a distancia m
+// recibe la máscara de los bajos a distancia D - a - m.
+template <int D>
 void Recubrimiento::Marcar(std::int32_t codigo) {
-    const Vecinos& vecinos = Vecinos::Hasta(distancia_);
-    const auto bajas = vecinos.De(codigo % kPesoAlta, distancia_ + 1);
-    const auto altas = vecinos.De(codigo / kPesoAlta, distancia_ + 1);
-    for (int a = 0; a <= distancia_; ++a) {
-        const auto cuantas = kHasta[static_cast<std::size_t>(distancia_ - a + 1)];
-        for (std::size_t i = kHasta[static_cast<std::size_t>(a)];
-             i < kHasta[static_cast<std::size_t>(a + 1)]; ++i) {
-            const std::int32_t base = altas[i] * kPesoAlta;
-            for (std::size_t j = 0; j < cuantas; ++j) Poner(base + bajas[j]);
+    const std::int32_t palabra = codigo / kPorPalabra;
+    const auto& bajas = kMascarasBajas[static_cast<std::size_t>(codigo % kPorPalabra)];
+    const std::int16_t* altas =
+        Vecinos<kAltos>::Hasta(D).De(palabra / kCodigosMedios, D + 1).data();
+    const std::int16_t* medias =
+        Vecinos<kMedios>::Hasta(D).De(palabra % kCodigosMedios, D + 1).data();
+    std::uint32_t* marcas = marcadas_.data();
+    for (std::size_t a = 0; a <= D; ++a) {
+        for (std::size_t i = kHasta<kAltos>[a]; i < kHasta<kAltos>[a + 1]; ++i) {
+            std::uint32_t* fila = marcas + altas[i] * kCodigosMedios;
+            for (std::size_t m = 0; a + m <= D; ++m) {
+                const std::uint32_t mascara = bajas[D - a - m];
+                for (std::size_t j = kHasta<kMedios>[m]; j < kHasta<kMedios>[m + 1]; ++j) {
+                    fila[medias[j]] |= mascara;
+                }
+            }
         }
     }
 }
 
-bool Recubrimiento::Considerar(SignosColumna signos) {
-    const std::int32_t codigo = CodigoColumna(signos);
-    if (codigo >= 0 && Marcada(codigo)) return false;
+bool Recubrimiento::ConsiderarSinMarca(SignosColumna signos, std::int32_t codigo) {
     Columna columna;
     std::ranges::copy(signos, columna.begin());
     const auto cerca = [&](const Columna& g) { return !DifierenMasDe(g, columna, distancia_); };
@@ -155,7 +167,17 @@ bool Recubrimiento::Considerar(SignosColumna signos) {
         guardadasSinCodigo_.push_back(columna);
     } else {
         codigosGuardados_.push_back(codigo);
-        Marcar(codigo);
+        switch (distancia_) {
+            case 1:
+                Marcar<1>(codigo);
+                break;
+            case 2:
+                Marcar<2>(codigo);
+                break;
+            default:
+                Marcar<3>(codigo);
+                break;
+        }
     }
     return true;
 }

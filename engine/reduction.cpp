@@ -52,15 +52,15 @@ ResultadoReduccion ReducirConCondiciones(Combinacion& comb,
 
     // Cada guardada se escribe en cuanto se guarda: con "&Detener", lo escrito es lo guardado.
     base::AnexadorRegistros red(carpetaTrabajo / kRedTmp, RegistroColumna::kLongitud);
-    RegistroColumna guardada{{}, comb.pleno, kActiva};
+    auto guardada = RegistroColumna{{}, comb.pleno, kActiva}.ABytes();
     Recubrimiento recubrimiento(distancia);
     ResultadoReduccion resultado;
     for (std::int32_t n = 1; n <= comb.totalGeneradas; ++n) {
         const auto bytes = cmb.Siguiente();
         const SignosColumna signos(reinterpret_cast<const Signo*>(bytes.data()), kPartidos);
         if (!recubrimiento.Considerar(signos)) continue;
-        std::ranges::copy(signos, guardada.columna.begin());
-        red.Anadir(guardada.ABytes());
+        std::ranges::copy(signos, guardada.begin());
+        red.Anadir(guardada);
         progreso.Avance(n, comb.totalGeneradas);
         if (n < comb.totalGeneradas && progreso.Detenido()) {
             resultado.detenida = true;
