@@ -118,68 +118,104 @@ constexpr auto kMascarasBajas = [] {
     return mascaras;
 }();
 
-Columna ColumnaDeCodigo(std::int32_t codigo) {
-    Columna columna;
-    for (auto s = columna.rbegin(); s != columna.rend(); ++s, codigo /= 3) {
-        *s = kSignos[static_cast<std::size_t>(codigo % 3)];
-    }
-    return columna;
+// La cifra de un signo, o -1 si el carácter no es un signo.
+int CifraDe(Signo s) {
+    const auto* signo = std::ranges::find(kSignos, s);
+    return signo == kSignos.end() ? -1 : static_cast<int>(signo - kSignos.begin());
 }
 
 }  // namespace
 
 Recubrimiento::Recubrimiento(int distancia)
-    : distancia_(distancia), marcadas_(kCodigosColumna / kPorPalabra, 0) {}
+    : distancia_(distancia),
+      marcadas_(kCodigosColumna / kPorPalabra, 0),
+      guardadas_((kCodigosColumna + 63) / 64, 0) {}
 
-// Cada código a la distancia cambia a lugares de los altos, m de los medios y el resto, hasta
-// la distancia, de los bajos: la palabra de unos altos a distancia a y unos medios a distancia m
-// recibe la máscara de los bajos a distancia D - a - m.
-template <int D>
-void Recubrimiento::Marcar(std::int32_t codigo) {
-    const std::int32_t palabra = codigo / kPorPalabra;
-    const auto& bajas = kMascarasBajas[static_cast<std::size_t>(codigo % kPorPalabra)];
-    const std::int16_t* altas =
-        Vecinos<kAltos>::Hasta(D).De(palabra / kCodigosMedios, D + 1).data();
-    const std::int16_t* medias =
-        Vecinos<kMedios>::Hasta(D).De(palabra % kCodigosMedios, D + 1).data();
-    std::uint32_t* marcas = marcadas_.data();
-    for (std::size_t a = 0; a <= D; ++a) {
-        for (std::size_t i = kHasta<kAltos>[a]; i < kHasta<kAltos>[a + 1]; ++i) {
-            std::uint32_t* fila = marcas + altas[i] * kCodigosMedios;
-            for (std::size_t m = 0; a + m <= D; ++m) {
-                const std::uint32_t mascara = bajas[D - a - m];
-                for (std::size_t j = kHasta<kMedios>[m]; j < kHasta<kMedios>[m + 1]; ++j) {
-                    fila[medias[j]] |= mascara;
-                }
-            }
+// Cada código a la distancia cambia A lugares de los altos, M de los medios y el resto, hasta la
+// distancia, de los bajos: las palabras de unos altos a distancia A y unos medios a distancia M
+// reciben la máscara de los bajos a distancia D - A - M. Con A y M fijos, cada bucle sabe cuántas
+// vueltas da.
+template <int D, std::size_t A, std::size_t M>
+void MarcarBloque(std::uint32_t* marcas, const std::int16_t* altas, const std::int16_t* medias,
+                  const std::array<std::uint32_t, kDistanciaMaxima + 1>& bajas) {
+    const std::uint32_t mascara = bajas[D - A - M];
+    for (std::size_t i = kHasta<kAltos>[A]; i < kHasta<kAltos>[A + 1]; ++i) {
+        std::uint32_t* fila = marcas + altas[i] * kCodigosMedios;
+        for (std::size_t j = kHasta<kMedios>[M]; j < kHasta<kMedios>[M + 1]; ++j) {
+            fila[medias[j]] |= mascara;
         }
     }
 }
 
+// Los bloques de los altos a distancia A: M de 0 a D - A.
+template <int D, std::size_t A, std::size_t... M>
+void MarcarAltas(std::uint32_t* marcas, const std::int16_t* altas, const std::int16_t* medias,
+                 const std::array<std::uint32_t, kDistanciaMaxima + 1>& bajas,
+                 std::index_sequence<M...>) {
+    (MarcarBloque<D, A, M>(marcas, altas, medias, bajas), ...);
+}
+
+template <int D, std::size_t... A>
+void MarcarBloques(std::uint32_t* marcas, const std::int16_t* altas, const std::int16_t* medias,
+                   const std::array<std::uint32_t, kDistanciaMaxima + 1>& bajas,
+                   std::index_sequence<A...>) {
+    (MarcarAltas<D, A>(marcas, altas, medias, bajas, std::make_index_sequence<D - A + 1>()), ...);
+}
+
+template <int D>
+void Recubrimiento::Marcar(std::int32_t codigo) {
+    const std::int32_t palabra = codigo / kPorPalabra;
+    const std::int16_t* altas =
+        Vecinos<kAltos>::Hasta(D).De(palabra / kCodigosMedios, D + 1).data();
+    const std::int16_t* medias =
+        Vecinos<kMedios>::Hasta(D).De(palabra % kCodigosMedios, D + 1).data();
+    MarcarBloques<D>(marcadas_.data(), altas, medias,
+                     kMascarasBajas[static_cast<std::size_t>(codigo % kPorPalabra)],
+                     std::make_index_sequence<D + 1>());
+}
+
 bool Recubrimiento::ConsiderarSinMarca(SignosColumna signos, std::int32_t codigo) {
-    Columna columna;
-    std::ranges::copy(signos, columna.begin());
-    const auto cerca = [&](const Columna& g) { return !DifierenMasDe(g, columna, distancia_); };
-    if (std::ranges::any_of(guardadasSinCodigo_, cerca)) return false;
-    if (codigo < 0) {
-        const auto conCodigo = [&](std::int32_t c) { return cerca(ColumnaDeCodigo(c)); };
-        if (std::ranges::any_of(codigosGuardados_, conCodigo)) return false;
-        guardadasSinCodigo_.push_back(columna);
-    } else {
-        codigosGuardados_.push_back(codigo);
-        switch (distancia_) {
-            case 1:
-                Marcar<1>(codigo);
-                break;
-            case 2:
-                Marcar<2>(codigo);
-                break;
-            default:
-                Marcar<3>(codigo);
-                break;
+    if (codigo < 0 || !guardadasSinCodigo_.empty()) {
+        Columna columna;
+        std::ranges::copy(signos, columna.begin());
+        const auto cerca = [&](const Columna& g) { return !DifierenMasDe(g, columna, distancia_); };
+        if (std::ranges::any_of(guardadasSinCodigo_, cerca)) return false;
+        if (codigo < 0) {
+            if (GuardadaConCodigoCerca(columna, 0, 0, distancia_)) return false;
+            guardadasSinCodigo_.push_back(columna);
+            return true;
         }
     }
+    guardadas_[static_cast<std::size_t>(codigo / 64)] |= std::uint64_t{1} << (codigo % 64);
+    switch (distancia_) {
+        case 1:
+            Marcar<1>(codigo);
+            break;
+        case 2:
+            Marcar<2>(codigo);
+            break;
+        default:
+            Marcar<3>(codigo);
+            break;
+    }
     return true;
+}
+
+// Recorre los códigos que, desde "partido", difieren de la columna en "margen" partidos o menos;
+// donde la columna no tiene un signo, todos difieren.
+bool Recubrimiento::GuardadaConCodigoCerca(const Columna& columna, std::size_t partido,
+                                           std::int32_t codigo, int margen) const {
+    if (partido == kPartidos) {
+        return (guardadas_[static_cast<std::size_t>(codigo / 64)] >> (codigo % 64)) & 1U;
+    }
+    const int cifra = CifraDe(columna[partido]);
+    for (int c = 0; c < 3; ++c) {
+        const int resto = c == cifra ? margen : margen - 1;
+        if (resto >= 0 && GuardadaConCodigoCerca(columna, partido + 1, codigo * 3 + c, resto)) {
+            return true;
+        }
+    }
+    return false;
 }
 
 }  // namespace quinteva::engine

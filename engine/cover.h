@@ -27,6 +27,9 @@ class Recubrimiento {
 
   private:
     bool ConsiderarSinMarca(SignosColumna signos, std::int32_t codigo);
+    // Si alguna guardada con código está a la distancia de una columna sin código.
+    bool GuardadaConCodigoCerca(const Columna& columna, std::size_t partido, std::int32_t codigo,
+                                int margen) const;
     // Cada palabra guarda los 27 códigos de unos mismos partidos 1 a 11, uno por bit.
     static constexpr std::int32_t kPorPalabra = 27;
 
@@ -40,9 +43,9 @@ class Recubrimiento {
 
     int distancia_;
     std::vector<std::uint32_t> marcadas_;
-    // Las guardadas con código, por su código: solo hacen falta para comparar con ellas una
+    // Las guardadas con código, un bit por código: solo hacen falta para comparar con ellas una
     // columna sin código.
-    std::vector<std::int32_t> codigosGuardados_;
+    std::vector<std::uint64_t> guardadas_;
     std::vector<Columna> guardadasSinCodigo_;
 };
 

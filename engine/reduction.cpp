@@ -1,6 +1,6 @@
 #include "engine/reduction.h"
 
-#include <algorithm>
+#include <cstring>
 #include <system_error>
 
 #include "base/error.h"
@@ -59,7 +59,7 @@ ResultadoReduccion ReducirConCondiciones(Combinacion& comb,
         const auto bytes = cmb.Siguiente();
         const SignosColumna signos(reinterpret_cast<const Signo*>(bytes.data()), kPartidos);
         if (!recubrimiento.Considerar(signos)) continue;
-        std::ranges::copy(signos, guardada.begin());
+        std::memcpy(guardada.data(), signos.data(), kPartidos);
         red.Anadir(guardada);
         progreso.Avance(n, comb.totalGeneradas);
         if (n < comb.totalGeneradas && progreso.Detenido()) {
