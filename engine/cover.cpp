@@ -138,6 +138,8 @@ Recubrimiento::Recubrimiento(int distancia)
 template <int D, std::size_t A, std::size_t M>
 void MarcarBloque(std::uint32_t* marcas, const std::int16_t* altas, const std::int16_t* medias,
                   const std::array<std::uint32_t, kDistanciaMaxima + 1>& bajas) {
+    // La palabra misma ya está marcada.
+    if constexpr (A == 0 && M == 0) return;
     const std::uint32_t mascara = bajas[D - A - M];
     for (std::size_t i = kHasta<kAltos>[A]; i < kHasta<kAltos>[A + 1]; ++i) {
         std::uint32_t* fila = marcas + altas[i] * kCodigosMedios;
@@ -163,15 +165,29 @@ void MarcarBloques(std::uint32_t* marcas, const std::int16_t* altas, const std::
 }
 
 template <int D>
-void Recubrimiento::Marcar(std::int32_t codigo) {
-    const std::int32_t palabra = codigo / kPorPalabra;
+void Recubrimiento::MarcarVecinas() {
     const std::int16_t* altas =
-        Vecinos<kAltos>::Hasta(D).De(palabra / kCodigosMedios, D + 1).data();
+        Vecinos<kAltos>::Hasta(D).De(pendiente_ / kCodigosMedios, D + 1).data();
     const std::int16_t* medias =
-        Vecinos<kMedios>::Hasta(D).De(palabra % kCodigosMedios, D + 1).data();
-    MarcarBloques<D>(marcadas_.data(), altas, medias,
-                     kMascarasBajas[static_cast<std::size_t>(codigo % kPorPalabra)],
+        Vecinos<kMedios>::Hasta(D).De(pendiente_ % kCodigosMedios, D + 1).data();
+    MarcarBloques<D>(marcadas_.data(), altas, medias, bajasPendientes_,
                      std::make_index_sequence<D + 1>());
+}
+
+void Recubrimiento::Vaciar() {
+    switch (distancia_) {
+        case 1:
+            MarcarVecinas<1>();
+            break;
+        case 2:
+            MarcarVecinas<2>();
+            break;
+        default:
+            MarcarVecinas<3>();
+            break;
+    }
+    bajasPendientes_ = {};
+    pendiente_ = -1;
 }
 
 bool Recubrimiento::ConsiderarSinMarca(SignosColumna signos, std::int32_t codigo) {
@@ -187,17 +203,10 @@ bool Recubrimiento::ConsiderarSinMarca(SignosColumna signos, std::int32_t codigo
         }
     }
     guardadas_[static_cast<std::size_t>(codigo / 64)] |= std::uint64_t{1} << (codigo % 64);
-    switch (distancia_) {
-        case 1:
-            Marcar<1>(codigo);
-            break;
-        case 2:
-            Marcar<2>(codigo);
-            break;
-        default:
-            Marcar<3>(codigo);
-            break;
-    }
+    const auto& bajas = kMascarasBajas[static_cast<std::size_t>(codigo % kPorPalabra)];
+    pendiente_ = codigo / kPorPalabra;
+    marcadas_[static_cast<std::size_t>(pendiente_)] |= bajas[static_cast<std::size_t>(distancia_)];
+    for (std::size_t r = 0; r < bajasPendientes_.size(); ++r) bajasPendientes_[r] |= bajas[r];
     return true;
 }
 

@@ -6,14 +6,17 @@
 #include <vector>
 
 #include "engine/column_code.h"
+#include "engine/reduction.h"
 
 namespace quinteva::engine {
 
 // El recubrimiento voraz, columna a columna: se queda una columna si no está a "distancia" o menos
 // de ninguna de las ya guardadas. Cada columna guardada marca en un mapa de bits todos los
-// códigos que cubre, así que decidir cuesta una consulta. Una columna con caracteres que no son
-// signos (un archivo dañado) no tiene código y se compara texto a texto con las guardadas, como
-// las demás con ella.
+// códigos que cubre, así que decidir cuesta una consulta. Las marcas fuera de la palabra de la
+// columna esperan a que se consulte otra palabra: las guardadas seguidas de una misma palabra
+// (las columnas suelen llegar en el orden del desarrollo) marcan sus vecinas de una vez. Una
+// columna con caracteres que no son signos (un archivo dañado) no tiene código y se compara texto a
+// texto con las guardadas, como las demás con ella.
 class Recubrimiento {
   public:
     explicit Recubrimiento(int distancia);
@@ -21,7 +24,10 @@ class Recubrimiento {
     // Verdadero si la columna se guarda.
     bool Considerar(SignosColumna signos) {
         const std::int32_t codigo = CodigoColumna(signos);
-        if (codigo >= 0 && Marcada(codigo)) return false;
+        if (codigo >= 0) {
+            if (pendiente_ >= 0 && codigo / kPorPalabra != pendiente_) Vaciar();
+            if (Marcada(codigo)) return false;
+        }
         return ConsiderarSinMarca(signos, codigo);
     }
 
@@ -38,8 +44,10 @@ class Recubrimiento {
                 (codigo % kPorPalabra)) &
                1U;
     }
+    // Marca las palabras vecinas de la pendiente con las máscaras pendientes.
+    void Vaciar();
     template <int D>
-    void Marcar(std::int32_t codigo);
+    void MarcarVecinas();
 
     int distancia_;
     std::vector<std::uint32_t> marcadas_;
@@ -47,6 +55,11 @@ class Recubrimiento {
     // columna sin código.
     std::vector<std::uint64_t> guardadas_;
     std::vector<Columna> guardadasSinCodigo_;
+    // La palabra de las últimas guardadas, -1 si no hay marcas pendientes, y por cada radio r la
+    // unión de las máscaras de sus bajos a distancia r: la que reciben las palabras vecinas a
+    // distancia "distancia" - r.
+    std::int32_t pendiente_ = -1;
+    std::array<std::uint32_t, kDistanciaMaxima + 1> bajasPendientes_{};
 };
 
 }  // namespace quinteva::engine
