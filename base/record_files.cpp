@@ -4,6 +4,7 @@
 #include <cerrno>
 #include <string>
 #include <system_error>
+#include <utility>
 
 #include "base/error.h"
 
@@ -101,29 +102,30 @@ AnexadorRegistros::AnexadorRegistros(const std::filesystem::path& ruta, std::siz
                    SEEK_SET) != 0) {
         FalloDeArchivo(ruta);
     }
-    bufer_.reserve(kBufer);
+    bufer_.resize(kBufer);
 }
 
 AnexadorRegistros::~AnexadorRegistros() {
-    if (archivo_ && !bufer_.empty()) {
-        std::fwrite(bufer_.data(), 1, bufer_.size(), archivo_.get());
+    if (archivo_ && usados_ > 0) {
+        std::fwrite(bufer_.data(), 1, usados_, archivo_.get());
     }
 }
 
 void AnexadorRegistros::AnadirVolcando(std::span<const Byte> registro) {
     if (registro.size() != longitud_) NumeroIncorrecto();
-    if (bufer_.size() + longitud_ > bufer_.capacity()) Volcar();
-    bufer_.insert(bufer_.end(), registro.begin(), registro.end());
+    if (usados_ + longitud_ > bufer_.size()) Volcar();
+    // Un registro más largo que el búfer lo agranda.
+    if (longitud_ > bufer_.size()) bufer_.resize(longitud_);
+    std::memcpy(bufer_.data() + usados_, registro.data(), longitud_);
+    usados_ += longitud_;
     ++cuenta_;
 }
 
 void AnexadorRegistros::Volcar() {
-    if (!bufer_.empty() &&
-        std::fwrite(bufer_.data(), 1, bufer_.size(), archivo_.get()) != bufer_.size()) {
-        bufer_.clear();
+    const std::size_t usados = std::exchange(usados_, 0);
+    if (usados > 0 && std::fwrite(bufer_.data(), 1, usados, archivo_.get()) != usados) {
         FalloDeArchivo(ruta_);
     }
-    bufer_.clear();
 }
 
 void AnexadorRegistros::Cerrar() {

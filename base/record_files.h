@@ -3,6 +3,7 @@
 #include <array>
 #include <cstdint>
 #include <cstdio>
+#include <cstring>
 #include <filesystem>
 #include <memory>
 #include <span>
@@ -49,11 +50,12 @@ class AnexadorRegistros {
     AnexadorRegistros& operator=(const AnexadorRegistros&) = delete;
 
     void Anadir(std::span<const Byte> registro) {
-        if (registro.size() != longitud_ || bufer_.size() + longitud_ > bufer_.capacity()) {
+        if (registro.size() != longitud_ || usados_ + longitud_ > bufer_.size()) {
             AnadirVolcando(registro);
             return;
         }
-        bufer_.insert(bufer_.end(), registro.begin(), registro.end());
+        std::memcpy(bufer_.data() + usados_, registro.data(), longitud_);
+        usados_ += longitud_;
         ++cuenta_;
     }
     // Registros en el archivo, contando los que aún están en el búfer.
@@ -69,6 +71,7 @@ class AnexadorRegistros {
     std::size_t longitud_;
     std::int32_t cuenta_;
     std::vector<Byte> bufer_;
+    std::size_t usados_ = 0;  // bytes del búfer que esperan a escribirse
     std::unique_ptr<std::FILE, int (*)(std::FILE*)> archivo_;
 };
 
