@@ -15,8 +15,9 @@ namespace quinteva::engine {
 // códigos que cubre, así que decidir cuesta una consulta. Las marcas fuera de la palabra de la
 // columna esperan a que se consulte otra palabra: las guardadas seguidas de una misma palabra
 // (las columnas suelen llegar en el orden del desarrollo) marcan sus vecinas de una vez. Una
-// columna con caracteres que no son signos (un archivo dañado) no tiene código y se compara texto a
-// texto con las guardadas, como las demás con ella.
+// columna con caracteres que no son signos (un archivo dañado) no tiene código: se compara texto a
+// texto con las guardadas sin código, y con las demás, por los códigos a su distancia; las
+// columnas que llegan después se comparan con ella texto a texto.
 class Recubrimiento {
   public:
     explicit Recubrimiento(int distancia);

@@ -135,7 +135,7 @@ TEST(ElegirSistema, PorNivelTriplesYDobles) {
     EXPECT_EQ(ElegirSistema(12, 3, 0), nullptr);
 }
 
-// ReducirPorTablas sobre todo el desarrollo, sin selección de partidos.
+// ReducirPorTablas sobre el desarrollo entero, sin selección de partidos.
 ResultadoTablas ReducirDesarrollo(Desarrollo& d, int nivel, ClaseBase& clases) {
     pruebas::ProgresoContador progreso;
     return ReducirPorTablas(d.combinacion, d.carpeta.Ruta(), nivel, std::nullopt, clases, progreso,
