@@ -102,7 +102,8 @@ AnexadorRegistros::AnexadorRegistros(const std::filesystem::path& ruta, std::siz
                    SEEK_SET) != 0) {
         FalloDeArchivo(ruta);
     }
-    bufer_.resize(kBufer);
+    // Al menos un registro cabe siempre.
+    bufer_.resize(std::max(kBufer, longitud));
 }
 
 AnexadorRegistros::~AnexadorRegistros() {
@@ -114,8 +115,6 @@ AnexadorRegistros::~AnexadorRegistros() {
 void AnexadorRegistros::AnadirVolcando(std::span<const Byte> registro) {
     if (registro.size() != longitud_) NumeroIncorrecto();
     if (usados_ + longitud_ > bufer_.size()) Volcar();
-    // Un registro más largo que el búfer lo agranda.
-    if (longitud_ > bufer_.size()) bufer_.resize(longitud_);
     std::memcpy(bufer_.data() + usados_, registro.data(), longitud_);
     usados_ += longitud_;
     ++cuenta_;

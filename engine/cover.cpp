@@ -118,12 +118,6 @@ constexpr auto kMascarasBajas = [] {
     return mascaras;
 }();
 
-// La cifra de un signo, o -1 si el carácter no es un signo.
-int CifraDe(Signo s) {
-    const auto* signo = std::ranges::find(kSignos, s);
-    return signo == kSignos.end() ? -1 : static_cast<int>(signo - kSignos.begin());
-}
-
 }  // namespace
 
 Recubrimiento::Recubrimiento(int distancia)
@@ -217,7 +211,7 @@ bool Recubrimiento::GuardadaConCodigoCerca(const Columna& columna, std::size_t p
     if (partido == kPartidos) {
         return (guardadas_[static_cast<std::size_t>(codigo / 64)] >> (codigo % 64)) & 1U;
     }
-    const int cifra = CifraDe(columna[partido]);
+    const int cifra = IndiceSigno(columna[partido]);
     for (int c = 0; c < 3; ++c) {
         const int resto = c == cifra ? margen : margen - 1;
         if (resto >= 0 && GuardadaConCodigoCerca(columna, partido + 1, codigo * 3 + c, resto)) {
