@@ -4,10 +4,15 @@
 // "sistema NIVEL TRIPLES DOBLES FILAS" seguido de sus filas.
 //
 // Uso: sistemas_reducidos data/sistemas_reducidos.txt
+//      sistemas_reducidos --grupo TRIPLES DOBLES RADIO FILAS
+// La segunda forma busca un grupo de traslaciones para una receta con pesos y escribe sus
+// generadores y su semilla.
 #include <fstream>
 #include <iostream>
 #include <stdexcept>
+#include <string>
 
+#include "grupos.h"
 #include "recetas.h"
 
 namespace {
@@ -30,11 +35,28 @@ Codigo Construir(const Sistema& s) {
     return Rellenar(std::move(c), static_cast<std::size_t>(s.filas));
 }
 
+int BuscarReceta(int triples, int dobles, int radio, int filas) {
+    const auto g =
+        BuscarGrupo(Espacio(triples, dobles), radio, filas, radio + 1, 1, kPasosPorGrupo, 100'000);
+    if (!g) {
+        std::cerr << "ningún grupo\n";
+        return 1;
+    }
+    std::cout << "generadores";
+    for (const Palabra& p : g->generadores) std::cout << " " << ATexto(p);
+    std::cout << "\nsemilla " << g->semilla << "\n";
+    return 0;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
+    if (argc == 6 && std::string(argv[1]) == "--grupo") {
+        return BuscarReceta(std::stoi(argv[2]), std::stoi(argv[3]), std::stoi(argv[4]),
+                            std::stoi(argv[5]));
+    }
     if (argc != 2) {
-        std::cerr << "Uso: sistemas_reducidos SALIDA\n";
+        std::cerr << "Uso: sistemas_reducidos SALIDA | --grupo TRIPLES DOBLES RADIO FILAS\n";
         return 2;
     }
     std::ofstream salida(argv[1], std::ios::binary);

@@ -8,6 +8,8 @@
 
 #include "clases_laterales.h"
 #include "golay.h"
+#include "grupos.h"
+#include "pesos.h"
 #include "tabu.h"
 
 namespace sistemas {
@@ -46,6 +48,21 @@ Receta ClasesLaterales(int triples, int dobles, int radio, FormaSindrome forma) 
     return [=] {
         auto c = BuscarClasesLaterales(Espacio(triples, dobles), radio, forma, 1, kMatrices);
         if (!c) throw std::runtime_error("ninguna matriz da un código con esas clases");
+        return *c;
+    };
+}
+
+// Unión de clases laterales del grupo que generan "generadores", hallada con la búsqueda con
+// pesos: los generadores y la semilla son los que da "sistemas_reducidos --grupo".
+Receta Pesos(int triples, int dobles, int radio, int filas, std::vector<std::string> generadores,
+             std::uint64_t semilla) {
+    return [=] {
+        std::vector<Palabra> g;
+        for (const auto& t : generadores) g.push_back(DeTexto(t));
+        auto c = BuscarConPesos(Espacio(triples, dobles), radio, filas, g, semilla, kPasosPorGrupo);
+        if (!c)
+            throw std::runtime_error("la búsqueda con pesos no llegó a " + std::to_string(filas) +
+                                     " filas");
         return *c;
     };
 }
@@ -107,14 +124,14 @@ std::vector<Sistema> Sistemas() {
         {12, 2, 6, 19, Tabu(2, 6, 2, 19)},
         {12, 3, 1, 3, Tabu(3, 1, 2, 3)},
         {12, 3, 4, 13, Tabu(3, 4, 2, 13)},
-        {12, 3, 7, 60, Amalgamada(Tabu(0, 7, 1, 16), 0, Tabu(3, 1, 1, 9), 3, 0, 2)},
+        {12, 3, 7, 60, Pesos(3, 7, 2, 60, {"111X1111XX"}, 5225314758959604220u)},
         {12, 4, 0, 3, Tabu(4, 0, 2, 3)},
         {12, 4, 3, 18, Tabu(4, 3, 2, 18)},
         {12, 4, 4, 24, Tabu(4, 4, 2, 24)},
         {12, 4, 7, 144, Suma(Tabu(0, 7, 1, 16), Tabu(4, 0, 1, 9))},
         {12, 6, 0, 18, Tabu(6, 0, 2, 18)},
         {12, 6, 2, 48, Tabu(6, 2, 2, 48)},
-        {12, 6, 3, 72, Amalgamada(Tabu(3, 2, 1, 16), 1, Tabu(4, 1, 1, 18), 0, 0, 2)},
+        {12, 6, 3, 72, Pesos(6, 3, 2, 72, {"111111XXX"}, 18180152953936235473u)},
         {12, 7, 0, 45, Tabu(7, 0, 2, 45)},
         {12, 8, 0, 81, Suma(Tabu(4, 0, 1, 9), Tabu(4, 0, 1, 9))},
         {12, 11, 0, 729, GolayTernario()},
@@ -127,7 +144,7 @@ std::vector<Sistema> Sistemas() {
         {11, 2, 4, 3, Tabu(2, 4, 3, 3)},
         {11, 2, 6, 6, Amalgamada(Tabu(0, 3, 1, 2), 0, Tabu(2, 4, 2, 6), 2, 0, 3)},
         {11, 2, 8, 16, Tabu(2, 8, 3, 16)},
-        {11, 2, 9, 24, Amalgamada(Tabu(0, 3, 1, 2), 0, Tabu(2, 7, 2, 28), 2, 0, 3)},
+        {11, 2, 9, 24, Pesos(2, 9, 3, 24, {"11XXX1XXX11"}, 9517174514341305139u)},
         {11, 3, 3, 3, Tabu(3, 3, 3, 3)},
         {11, 3, 5, 8, Tabu(3, 5, 3, 8)},
         {11, 3, 6, 12, Tabu(3, 6, 3, 12)},
@@ -140,11 +157,11 @@ std::vector<Sistema> Sistemas() {
         {11, 5, 0, 3, Tabu(5, 0, 3, 3)},
         {11, 5, 2, 7, Tabu(5, 2, 3, 7)},
         {11, 5, 3, 12, Tabu(5, 3, 3, 12)},
-        {11, 5, 5, 32, Amalgamada(Tabu(1, 2, 1, 3), 1, Tabu(4, 4, 2, 24), 4, 0, 3)},
+        {11, 5, 5, 32, Pesos(5, 5, 3, 32, {"11111XXXX1"}, 4282958424984823251u)},
         {11, 5, 7, 90, Amalgamada(Tabu(0, 7, 1, 16), 0, Tabu(5, 1, 2, 12), 5, 0, 3)},
         {11, 6, 0, 6, Tabu(6, 0, 3, 6)},
         {11, 6, 2, 16, Amalgamada(Tabu(3, 2, 1, 16), 1, Tabu(4, 0, 2, 3), 0, 0, 3)},
-        {11, 6, 3, 24, Amalgamada(Tabu(2, 2, 1, 6), 0, Tabu(5, 1, 2, 12), 2, 2, 3)},
+        {11, 6, 3, 24, Pesos(6, 3, 3, 24, {"121222111"}, 17833005350869717298u)},
         {11, 6, 5, 72, Amalgamada(Tabu(2, 2, 1, 6), 2, Tabu(4, 4, 2, 24), 4, 0, 3)},
         {11, 6, 6, 96, Amalgamada(Tabu(3, 2, 1, 16), 1, Tabu(4, 4, 2, 24), 0, 0, 3)},
         {11, 7, 0, 12, Tabu(7, 0, 3, 12)},

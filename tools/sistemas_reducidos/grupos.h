@@ -1,0 +1,27 @@
+// Búsqueda de un grupo de traslaciones con el que la búsqueda con pesos llega a un código: se
+// prueban grupos al azar, generados por palabras de solo triples (de orden 3) o de solo dobles (de
+// orden 2), cuyo tamaño divide las filas y cuyas palabras distintas de cero tienen todas al menos
+// "pesoMinimo" lugares distintos de "1" (así las bolas de una clase se solapan poco).
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <vector>
+
+#include "codigo.h"
+
+namespace sistemas {
+
+// Pasos de la búsqueda con pesos en cada grupo que se prueba (y en cada receta que la repite).
+constexpr std::int64_t kPasosPorGrupo = 400'000;
+
+struct Grupo {
+    std::vector<Palabra> generadores;
+    std::uint64_t semilla;  // la de la búsqueda con pesos que llegó
+    Codigo codigo;
+};
+
+std::optional<Grupo> BuscarGrupo(const Espacio& espacio, int radio, int filas, int pesoMinimo,
+                                 std::uint64_t semilla, std::int64_t pasos, int intentos);
+
+}  // namespace sistemas
