@@ -86,4 +86,16 @@ std::optional<Grupo> BuscarGrupo(const Espacio& e, int radio, int filas, int pes
     return std::nullopt;
 }
 
+std::optional<Grupo> BuscarSemilla(const Espacio& e, int radio, int filas,
+                                   const std::vector<Palabra>& generadores, std::int64_t pasos,
+                                   int intentos) {
+    for (int s = 1; s <= intentos; ++s) {
+        const auto semilla = static_cast<std::uint64_t>(s);
+        if (auto c = BuscarConPesos(e, radio, filas, generadores, semilla, pasos)) {
+            return Grupo{generadores, semilla, std::move(*c)};
+        }
+    }
+    return std::nullopt;
+}
+
 }  // namespace sistemas

@@ -13,7 +13,7 @@
 namespace sistemas {
 
 // Pasos de la búsqueda con pesos en cada grupo que se prueba (y en cada receta que la repite).
-constexpr std::int64_t kPasosPorGrupo = 400'000;
+constexpr std::int64_t kPasosPorGrupo = 1'000'000;
 
 struct Grupo {
     std::vector<Palabra> generadores;
@@ -23,5 +23,10 @@ struct Grupo {
 
 std::optional<Grupo> BuscarGrupo(const Espacio& espacio, int radio, int filas, int pesoMinimo,
                                  std::uint64_t semilla, std::int64_t pasos, int intentos);
+
+// Con unos generadores dados: prueba las semillas 1, 2, ... hasta "intentos".
+std::optional<Grupo> BuscarSemilla(const Espacio& espacio, int radio, int filas,
+                                   const std::vector<Palabra>& generadores, std::int64_t pasos,
+                                   int intentos);
 
 }  // namespace sistemas

@@ -4,9 +4,9 @@
 // "sistema NIVEL TRIPLES DOBLES FILAS" seguido de sus filas.
 //
 // Uso: sistemas_reducidos data/sistemas_reducidos.txt
-//      sistemas_reducidos --grupo TRIPLES DOBLES RADIO FILAS
-// La segunda forma busca un grupo de traslaciones para una receta con pesos y escribe sus
-// generadores y su semilla.
+//      sistemas_reducidos --grupo TRIPLES DOBLES RADIO FILAS [GENERADOR...]
+// La segunda forma busca un grupo de traslaciones para una receta con pesos (o, con los
+// generadores dados, una semilla) y escribe sus generadores y su semilla.
 #include <fstream>
 #include <iostream>
 #include <stdexcept>
@@ -35,9 +35,12 @@ Codigo Construir(const Sistema& s) {
     return Rellenar(std::move(c), static_cast<std::size_t>(s.filas));
 }
 
-int BuscarReceta(int triples, int dobles, int radio, int filas) {
-    const auto g =
-        BuscarGrupo(Espacio(triples, dobles), radio, filas, radio + 1, 1, kPasosPorGrupo, 100'000);
+int BuscarReceta(int triples, int dobles, int radio, int filas,
+                 const std::vector<Palabra>& generadores) {
+    const Espacio e(triples, dobles);
+    const auto g = generadores.empty()
+                       ? BuscarGrupo(e, radio, filas, radio + 1, 1, kPasosPorGrupo, 100'000)
+                       : BuscarSemilla(e, radio, filas, generadores, kPasosPorGrupo, 1'000);
     if (!g) {
         std::cerr << "ningún grupo\n";
         return 1;
@@ -51,12 +54,15 @@ int BuscarReceta(int triples, int dobles, int radio, int filas) {
 }  // namespace
 
 int main(int argc, char** argv) {
-    if (argc == 6 && std::string(argv[1]) == "--grupo") {
+    if (argc >= 6 && std::string(argv[1]) == "--grupo") {
+        std::vector<Palabra> generadores;
+        for (int i = 6; i < argc; ++i) generadores.push_back(DeTexto(argv[i]));
         return BuscarReceta(std::stoi(argv[2]), std::stoi(argv[3]), std::stoi(argv[4]),
-                            std::stoi(argv[5]));
+                            std::stoi(argv[5]), generadores);
     }
     if (argc != 2) {
-        std::cerr << "Uso: sistemas_reducidos SALIDA | --grupo TRIPLES DOBLES RADIO FILAS\n";
+        std::cerr << "Uso: sistemas_reducidos SALIDA | --grupo TRIPLES DOBLES RADIO FILAS "
+                     "[GENERADOR...]\n";
         return 2;
     }
     std::ofstream salida(argv[1], std::ios::binary);
