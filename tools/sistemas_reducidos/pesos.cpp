@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <random>
 
+#include "conjunto.h"
+
 namespace sistemas {
 namespace {
 
@@ -58,30 +60,6 @@ struct Clases {
             }
         }
     }
-};
-
-// Una lista de clases que se añaden y se quitan en tiempo constante.
-class Conjunto {
-  public:
-    explicit Conjunto(std::size_t n) : posicion_(n, -1) {}
-
-    void Anadir(int c) {
-        posicion_[static_cast<std::size_t>(c)] = static_cast<int>(lista_.size());
-        lista_.push_back(c);
-    }
-    void Quitar(int c) {
-        const auto i = static_cast<std::size_t>(posicion_[static_cast<std::size_t>(c)]);
-        lista_[i] = lista_.back();
-        posicion_[static_cast<std::size_t>(lista_[i])] = static_cast<int>(i);
-        lista_.pop_back();
-        posicion_[static_cast<std::size_t>(c)] = -1;
-    }
-    bool Contiene(int c) const { return posicion_[static_cast<std::size_t>(c)] >= 0; }
-    const std::vector<int>& Lista() const { return lista_; }
-
-  private:
-    std::vector<int> posicion_;
-    std::vector<int> lista_;
 };
 
 // El estado de la búsqueda. Los puntos de una clase fuera del código son el peso sin cubrir que

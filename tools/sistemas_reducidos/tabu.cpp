@@ -4,6 +4,8 @@
 #include <climits>
 #include <random>
 
+#include "conjunto.h"
+
 namespace sistemas {
 namespace {
 
@@ -14,11 +16,8 @@ class Cobertura {
         : e_(e),
           radio_(radio),
           cuenta_(static_cast<std::size_t>(e.Palabras()), 0),
-          posicion_(static_cast<std::size_t>(e.Palabras())) {
-        for (std::int64_t x = 0; x < e.Palabras(); ++x) {
-            posicion_[static_cast<std::size_t>(x)] = static_cast<std::int64_t>(sinCubrir_.size());
-            sinCubrir_.push_back(x);
-        }
+          sinCubrir_(static_cast<std::size_t>(e.Palabras())) {
+        for (std::int64_t x = 0; x < e.Palabras(); ++x) sinCubrir_.Anadir(static_cast<int>(x));
     }
 
     void Marcar(std::int64_t fila, int signo) {
@@ -27,38 +26,31 @@ class Cobertura {
             const int antes = cuenta_[iy];
             cuenta_[iy] += signo;
             if (antes == 0 && cuenta_[iy] > 0) {
-                const auto i = static_cast<std::size_t>(posicion_[iy]);
-                const std::int64_t ultima = sinCubrir_.back();
-                sinCubrir_[i] = ultima;
-                posicion_[static_cast<std::size_t>(ultima)] = static_cast<std::int64_t>(i);
-                sinCubrir_.pop_back();
-                posicion_[iy] = -1;
+                sinCubrir_.Quitar(static_cast<int>(y));
             } else if (antes > 0 && cuenta_[iy] == 0) {
-                posicion_[iy] = static_cast<std::int64_t>(sinCubrir_.size());
-                sinCubrir_.push_back(y);
+                sinCubrir_.Anadir(static_cast<int>(y));
             }
         });
     }
 
     // Cuánto cambian las palabras sin cubrir si la fila "de" pasa a "a" (sin hacerlo).
     std::int64_t Cambio(std::int64_t de, std::int64_t a) {
-        const auto antes = static_cast<std::int64_t>(sinCubrir_.size());
+        const auto antes = static_cast<std::int64_t>(SinCubrir().size());
         Marcar(de, -1);
         Marcar(a, 1);
-        const auto cambio = static_cast<std::int64_t>(sinCubrir_.size()) - antes;
+        const auto cambio = static_cast<std::int64_t>(SinCubrir().size()) - antes;
         Marcar(a, -1);
         Marcar(de, 1);
         return cambio;
     }
 
-    const std::vector<std::int64_t>& SinCubrir() const { return sinCubrir_; }
+    const std::vector<int>& SinCubrir() const { return sinCubrir_.Lista(); }
 
   private:
     const Espacio& e_;
     int radio_;
     std::vector<int> cuenta_;
-    std::vector<std::int64_t> posicion_;
-    std::vector<std::int64_t> sinCubrir_;
+    Conjunto sinCubrir_;
 };
 
 struct Movimiento {
