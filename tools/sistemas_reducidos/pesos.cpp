@@ -36,7 +36,7 @@ struct Clases {
     std::size_t Cuantas() const { return representantes.size(); }
 
   private:
-    // La clase de x: todo lo que se alcanza sumando generadores.
+    // La clase de x: las palabras que se alcanzan sumando generadores.
     void Recorrer(const Espacio& e, std::int64_t x, const std::vector<Palabra>& generadores) {
         const int clase = static_cast<int>(representantes.size());
         representantes.push_back(x);
@@ -206,7 +206,7 @@ std::optional<Codigo> BuscarConPesos(const Espacio& e, int radio, int filas,
     Busqueda b(clases);
     std::mt19937_64 azar(semilla);
     std::int64_t paso = 0;
-    // Al principio, con avidez, hasta cubrirlo todo.
+    // Al principio, con avidez, hasta que no quede ninguna clase sin cubrir.
     std::vector<int> todas(clases.Cuantas());
     for (std::size_t c = 0; c < todas.size(); ++c) todas[c] = static_cast<int>(c);
     while (!b.SinCubrir().empty()) {
@@ -214,7 +214,7 @@ std::optional<Codigo> BuscarConPesos(const Espacio& e, int radio, int filas,
     }
     int entro = -1;
     for (; paso < pasos; ++paso) {
-        // Cubierto todo: sobra una clase, o es el código buscado.
+        // Sin clases por cubrir: sobra una clase, o es el código buscado.
         while (b.SinCubrir().empty()) {
             if (b.Elegidas().size() <= objetivo) return Palabras(e, clases, b.Elegidas());
             b.Salir(b.Mejor(b.Elegidas(), [](int) { return true; }), paso);
