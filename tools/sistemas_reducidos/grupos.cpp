@@ -1,6 +1,7 @@
 #include "grupos.h"
 
 #include <algorithm>
+#include <array>
 #include <random>
 
 #include "pesos.h"
@@ -63,7 +64,49 @@ int PesoMinimo(const Espacio& e, const std::vector<Palabra>& generadores) {
     return minimo;
 }
 
+// Los repartos de los lugares de triples: (ceros, a, b, c, d) con a >= b >= c >= d y b > 0, para
+// que los dos generadores no sean proporcionales.
+std::vector<std::array<int, 5>> Repartos(int lugares) {
+    std::vector<std::array<int, 5>> repartos;
+    for (int ceros = 0; ceros <= lugares; ++ceros) {
+        for (int a = 1; a <= lugares - ceros; ++a) {
+            for (int b = 1; b <= a; ++b) {
+                for (int c = 0; c <= b; ++c) {
+                    const int d = lugares - ceros - a - b - c;
+                    if (d >= 0 && d <= c) repartos.push_back({ceros, a, b, c, d});
+                }
+            }
+        }
+    }
+    return repartos;
+}
+
+std::vector<Palabra> Plano(const Espacio& e, const std::array<int, 5>& reparto) {
+    static constexpr std::array<std::array<std::uint8_t, 2>, 5> kDirecciones{
+        {{0, 0}, {1, 0}, {0, 1}, {1, 1}, {1, 2}}};
+    std::vector<Palabra> generadores(2, Palabra(static_cast<std::size_t>(e.Lugares()), 0));
+    std::size_t lugar = 0;
+    for (std::size_t d = 0; d < kDirecciones.size(); ++d) {
+        for (int i = 0; i < reparto[d]; ++i, ++lugar) {
+            generadores[0][lugar] = kDirecciones[d][0];
+            generadores[1][lugar] = kDirecciones[d][1];
+        }
+    }
+    return generadores;
+}
+
 }  // namespace
+
+std::optional<Grupo> BuscarPlano(const Espacio& e, int radio, int filas, std::int64_t pasos) {
+    if (filas % 9 != 0) return std::nullopt;
+    for (const auto& reparto : Repartos(e.Triples())) {
+        std::vector<Palabra> generadores = Plano(e, reparto);
+        if (auto c = BuscarConPesos(e, radio, filas, generadores, 1, pasos)) {
+            return Grupo{std::move(generadores), 1, std::move(*c)};
+        }
+    }
+    return std::nullopt;
+}
 
 std::optional<Grupo> BuscarGrupo(const Espacio& e, int radio, int filas, int pesoMinimo,
                                  std::uint64_t semilla, std::int64_t pasos, int intentos) {

@@ -24,6 +24,12 @@ struct Grupo {
 std::optional<Grupo> BuscarGrupo(const Espacio& espacio, int radio, int filas, int pesoMinimo,
                                  std::uint64_t semilla, std::int64_t pasos, int intentos);
 
+// Los grupos de dos generadores de triples: salvo el orden de los lugares y el cambio de
+// símbolos en cada lugar, uno de ellos queda dado por cuántos lugares tienen en los generadores
+// (0, 0) y cuántos cada una de las cuatro direcciones (1, 0), (0, 1), (1, 1) y (1, 2). Se prueban
+// todos los repartos, en orden, con la semilla 1; el primero que llega es el que se devuelve.
+std::optional<Grupo> BuscarPlano(const Espacio& espacio, int radio, int filas, std::int64_t pasos);
+
 // Con unos generadores dados: prueba las semillas 1, 2, ... hasta "intentos".
 std::optional<Grupo> BuscarSemilla(const Espacio& espacio, int radio, int filas,
                                    const std::vector<Palabra>& generadores, std::int64_t pasos,

@@ -5,8 +5,10 @@
 //
 // Uso: sistemas_reducidos data/sistemas_reducidos.txt
 //      sistemas_reducidos --grupo TRIPLES DOBLES RADIO FILAS [GENERADOR...]
-// La segunda forma busca un grupo de traslaciones para una receta con pesos (o, con los
-// generadores dados, una semilla) y escribe sus generadores y su semilla.
+//      sistemas_reducidos --plano TRIPLES DOBLES RADIO FILAS
+// La segunda forma busca un grupo de traslaciones al azar para una receta con pesos (o, con los
+// generadores dados, una semilla); la tercera prueba uno a uno los grupos de dos generadores de
+// triples. Las dos escriben los generadores y la semilla de la receta.
 #include <fstream>
 #include <iostream>
 #include <stdexcept>
@@ -35,12 +37,7 @@ Codigo Construir(const Sistema& s) {
     return Rellenar(std::move(c), static_cast<std::size_t>(s.filas));
 }
 
-int BuscarReceta(int triples, int dobles, int radio, int filas,
-                 const std::vector<Palabra>& generadores) {
-    const Espacio e(triples, dobles);
-    const auto g = generadores.empty()
-                       ? BuscarGrupo(e, radio, filas, radio + 1, 1, kPasosPorGrupo, 100'000)
-                       : BuscarSemilla(e, radio, filas, generadores, kPasosPorGrupo, 1'000);
+int EscribirReceta(const std::optional<Grupo>& g) {
     if (!g) {
         std::cerr << "ningún grupo\n";
         return 1;
@@ -49,6 +46,14 @@ int BuscarReceta(int triples, int dobles, int radio, int filas,
     for (const Palabra& p : g->generadores) std::cout << " " << ATexto(p);
     std::cout << "\nsemilla " << g->semilla << "\n";
     return 0;
+}
+
+int BuscarReceta(int triples, int dobles, int radio, int filas,
+                 const std::vector<Palabra>& generadores) {
+    const Espacio e(triples, dobles);
+    return EscribirReceta(generadores.empty()
+                              ? BuscarGrupo(e, radio, filas, radio + 1, 1, kPasosPorGrupo, 100'000)
+                              : BuscarSemilla(e, radio, filas, generadores, kPasosPorGrupo, 1'000));
 }
 
 }  // namespace
@@ -60,9 +65,13 @@ int main(int argc, char** argv) {
         return BuscarReceta(std::stoi(argv[2]), std::stoi(argv[3]), std::stoi(argv[4]),
                             std::stoi(argv[5]), generadores);
     }
+    if (argc == 6 && std::string(argv[1]) == "--plano") {
+        return EscribirReceta(BuscarPlano(Espacio(std::stoi(argv[2]), std::stoi(argv[3])),
+                                          std::stoi(argv[4]), std::stoi(argv[5]), kPasosPorGrupo));
+    }
     if (argc != 2) {
         std::cerr << "Uso: sistemas_reducidos SALIDA | --grupo TRIPLES DOBLES RADIO FILAS "
-                     "[GENERADOR...]\n";
+                     "[GENERADOR...] | --plano TRIPLES DOBLES RADIO FILAS\n";
         return 2;
     }
     std::ofstream salida(argv[1], std::ios::binary);
