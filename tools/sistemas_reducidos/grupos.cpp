@@ -100,10 +100,7 @@ std::vector<Palabra> Plano(const Espacio& e, const std::array<int, 5>& reparto) 
 std::optional<Grupo> BuscarPlano(const Espacio& e, int radio, int filas, std::int64_t pasos) {
     if (filas % 9 != 0) return std::nullopt;
     for (const auto& reparto : Repartos(e.Triples())) {
-        std::vector<Palabra> generadores = Plano(e, reparto);
-        if (auto c = BuscarConPesos(e, radio, filas, generadores, 1, pasos)) {
-            return Grupo{std::move(generadores), 1, std::move(*c)};
-        }
+        if (auto g = BuscarSemilla(e, radio, filas, Plano(e, reparto), pasos, 1)) return g;
     }
     return std::nullopt;
 }
