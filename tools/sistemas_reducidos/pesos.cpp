@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <random>
+#include <utility>
 
 #include "conjunto.h"
 
@@ -67,14 +68,15 @@ struct Clases {
 // de las clases del código que cubren cada clase: cuando la cubre una sola, es esa.
 class Busqueda {
   public:
-    explicit Busqueda(const Clases& clases)
+    Busqueda(const Clases& clases, std::vector<bool> permitidas)
         : k_(clases),
+          permitidas_(std::move(permitidas)),
           cuenta_(k_.Cuantas(), 0),
           suma_(k_.Cuantas(), 0),
           peso_(k_.Cuantas(), 1),
           puntos_(k_.Cuantas()),
           sello_(k_.Cuantas(), 0),
-          libre_(k_.Cuantas(), true),
+          libre_(permitidas_),
           codigo_(k_.Cuantas()),
           sinCubrir_(k_.Cuantas()) {
         for (std::size_t c = 0; c < k_.Cuantas(); ++c) {
@@ -144,6 +146,7 @@ class Busqueda {
     }
 
     bool Libre(int c) const { return libre_[I(c)]; }
+    bool Permitida(int c) const { return permitidas_[I(c)]; }
     bool EnCodigo(int c) const { return codigo_.Contiene(c); }
 
     struct VecinasDe {
@@ -168,11 +171,12 @@ class Busqueda {
     void Repartir(int y, std::int64_t cambio) {
         Vecinas(y, [&](int z) {
             puntos_[I(z)] += cambio;
-            libre_[I(z)] = true;
+            libre_[I(z)] = permitidas_[I(z)];
         });
     }
 
     const Clases& k_;
+    const std::vector<bool> permitidas_;
     std::vector<int> cuenta_;
     std::vector<std::int64_t> suma_;
     std::vector<std::int64_t> peso_;
@@ -199,18 +203,25 @@ Codigo Palabras(const Espacio& e, const Clases& clases, const std::vector<int>& 
 
 std::optional<Codigo> BuscarConPesos(const Espacio& e, int radio, int filas,
                                      const std::vector<Palabra>& generadores, std::uint64_t semilla,
-                                     std::int64_t pasos) {
+                                     std::int64_t pasos, const Permitida& permitida) {
     const Clases clases(e, radio, generadores);
     if (filas % clases.tamano != 0) return std::nullopt;
     const auto objetivo = static_cast<std::size_t>(filas / clases.tamano);
-    Busqueda b(clases);
+    std::vector<bool> permitidas(clases.Cuantas(), true);
+    if (permitida) {
+        for (std::size_t c = 0; c < permitidas.size(); ++c)
+            permitidas[c] = permitida(e.DeIndice(clases.representantes[c]));
+    }
+    Busqueda b(clases, std::move(permitidas));
     std::mt19937_64 azar(semilla);
     std::int64_t paso = 0;
     // Al principio, con avidez, hasta que no quede ninguna clase sin cubrir.
     std::vector<int> todas(clases.Cuantas());
     for (std::size_t c = 0; c < todas.size(); ++c) todas[c] = static_cast<int>(c);
     while (!b.SinCubrir().empty()) {
-        b.Entrar(b.Mejor(todas, [&](int c) { return !b.EnCodigo(c); }), ++paso);
+        const int c = b.Mejor(todas, [&](int c) { return !b.EnCodigo(c) && b.Permitida(c); });
+        if (c < 0) return std::nullopt;  // las permitidas no cubren el espacio
+        b.Entrar(c, ++paso);
     }
     int entro = -1;
     for (; paso < pasos; ++paso) {

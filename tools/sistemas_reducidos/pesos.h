@@ -9,9 +9,13 @@
 // que cubren una clase sin cubrir tomada al azar, la que cubre más peso sin cubrir, entre las que
 // han visto cambiar algo a su alrededor desde que salieron. Con el grupo de una sola palabra, la
 // búsqueda es sobre el espacio entero.
+//
+// Con "permitida", solo pueden entrar en el código las clases cuyo representante (su primera
+// palabra) la cumple; todas las palabras siguen teniendo que quedar cubiertas.
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <vector>
 
@@ -19,8 +23,10 @@
 
 namespace sistemas {
 
+using Permitida = std::function<bool(const Palabra&)>;
+
 std::optional<Codigo> BuscarConPesos(const Espacio& espacio, int radio, int filas,
                                      const std::vector<Palabra>& generadores, std::uint64_t semilla,
-                                     std::int64_t pasos);
+                                     std::int64_t pasos, const Permitida& permitida = nullptr);
 
 }  // namespace sistemas
