@@ -146,7 +146,7 @@ class Busqueda {
     }
 
     bool Libre(int c) const { return libre_[I(c)]; }
-    bool Permitida(int c) const { return permitidas_[I(c)]; }
+    bool EsPermitida(int c) const { return permitidas_[I(c)]; }
     bool EnCodigo(int c) const { return codigo_.Contiene(c); }
 
     struct VecinasDe {
@@ -219,7 +219,7 @@ std::optional<Codigo> BuscarConPesos(const Espacio& e, int radio, int filas,
     std::vector<int> todas(clases.Cuantas());
     for (std::size_t c = 0; c < todas.size(); ++c) todas[c] = static_cast<int>(c);
     while (!b.SinCubrir().empty()) {
-        const int c = b.Mejor(todas, [&](int c) { return !b.EnCodigo(c) && b.Permitida(c); });
+        const int c = b.Mejor(todas, [&](int c) { return !b.EnCodigo(c) && b.EsPermitida(c); });
         if (c < 0) return std::nullopt;  // las permitidas no cubren el espacio
         b.Entrar(c, ++paso);
     }
