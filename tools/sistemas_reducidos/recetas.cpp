@@ -67,23 +67,32 @@ Receta Pesos(int triples, int dobles, int radio, int filas, std::vector<std::str
     };
 }
 
-// Siete dobles cuyo síndrome en el código de Hamming de 7 lugares (el doble i cuenta como el
-// número i + 1 en binario) es 0 o 1: las palabras del código y las de su clase por el primer doble.
-bool DoblesCercaDelHamming(const Palabra& p, int triples) {
+// El síndrome de los dobles en el código de Hamming de 7 lugares: el doble i cuenta como el
+// número i + 1 en binario (con seis dobles, el código acortado).
+int SindromeDobles(const Palabra& p, int triples) {
     int sindrome = 0;
-    for (int i = 0; i < 7; ++i) {
-        if (p[static_cast<std::size_t>(triples + i)] == 1) sindrome ^= i + 1;
+    for (std::size_t l = static_cast<std::size_t>(triples); l < p.size(); ++l) {
+        if (p[l] == 1) sindrome ^= static_cast<int>(l) - triples + 1;
     }
-    return sindrome <= 1;
+    return sindrome;
 }
 
-// Búsqueda con pesos, con la semilla 1, sobre el espacio entero de triples y siete dobles en la
-// que solo entran filas con los dobles cerca del código de Hamming.
-Receta CercaDelHamming(int triples, int radio, int filas) {
+// 5+7: los dobles en el código de Hamming o en su clase por el primer doble.
+bool FilaDe5Mas7(const Palabra& p) { return SindromeDobles(p, 5) <= 1; }
+
+// 6+6: los triples segundo, tercero y cuarto suman 0 módulo 3 (los cuatro primeros están en el
+// Hamming ternario de 4 lugares o en dos de sus clases) y los dobles tienen síndrome 0, 1 o 7.
+bool FilaDe6Mas6(const Palabra& p) {
+    const int sindrome = SindromeDobles(p, 6);
+    return (p[1] + p[2] + p[3]) % 3 == 0 && (sindrome <= 1 || sindrome == 7);
+}
+
+// Búsqueda con pesos, con la semilla 1, sobre el espacio entero, en la que solo entran las filas
+// que cumplen "permitida".
+Receta Restringida(int triples, int dobles, int radio, int filas, Permitida permitida) {
     return [=] {
-        auto c =
-            BuscarConPesos(Espacio(triples, 7), radio, filas, {}, 1, kPasosPorGrupo,
-                           [=](const Palabra& p) { return DoblesCercaDelHamming(p, triples); });
+        auto c = BuscarConPesos(Espacio(triples, dobles), radio, filas, {}, 1, kPasosPorGrupo,
+                                permitida);
         if (!c)
             throw std::runtime_error("la búsqueda con pesos no llegó a " + std::to_string(filas) +
                                      " filas");
@@ -182,12 +191,12 @@ std::vector<Sistema> Sistemas() {
         {11, 5, 2, 7, Tabu(5, 2, 3, 7)},
         {11, 5, 3, 12, Tabu(5, 3, 3, 12)},
         {11, 5, 5, 32, Pesos(5, 5, 3, 32, {"11111XXXX1"}, 4282958424984823251u)},
-        {11, 5, 7, 90, CercaDelHamming(5, 3, 90)},
+        {11, 5, 7, 90, Restringida(5, 7, 3, 90, FilaDe5Mas7)},
         {11, 6, 0, 6, Tabu(6, 0, 3, 6)},
         {11, 6, 2, 16, Amalgamada(Tabu(3, 2, 1, 16), 1, Tabu(4, 0, 2, 3), 0, 0, 3)},
         {11, 6, 3, 24, Pesos(6, 3, 3, 24, {"121222111"}, 17833005350869717298u)},
         {11, 6, 5, 72, Amalgamada(Tabu(2, 2, 1, 6), 2, Tabu(4, 4, 2, 24), 4, 0, 3)},
-        {11, 6, 6, 96, Amalgamada(Tabu(3, 2, 1, 16), 1, Tabu(4, 4, 2, 24), 0, 0, 3)},
+        {11, 6, 6, 96, Restringida(6, 6, 3, 96, FilaDe6Mas6)},
         {11, 7, 0, 12, Tabu(7, 0, 3, 12)},
         {11, 7, 1, 18, Amalgamada(Tabu(4, 1, 1, 18), 0, Tabu(4, 0, 2, 3), 0, 0, 3)},
         {11, 7, 3, 54, Pesos(7, 3, 3, 54, {"XX2X12X111"}, 4454196104791885950u)},
