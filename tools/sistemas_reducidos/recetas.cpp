@@ -80,12 +80,18 @@ int SindromeDobles(const Palabra& p, int triples) {
 // 5+7: los dobles en el código de Hamming o en su clase por el primer doble.
 bool FilaDe5Mas7(const Palabra& p) { return SindromeDobles(p, 5) <= 1; }
 
-// 6+6: los triples segundo, tercero y cuarto suman 0 módulo 3 (los cuatro primeros están en el
-// Hamming ternario de 4 lugares o en dos de sus clases) y los dobles tienen síndrome 0, 1 o 7.
+// Los triples l, l + 1 y l + 2 suman 0 módulo 3: con el triple l - 1, los cuatro están en el
+// Hamming ternario de 4 lugares o en dos de sus clases.
+bool SumanCero(const Palabra& p, std::size_t l) { return (p[l] + p[l + 1] + p[l + 2]) % 3 == 0; }
+
+// 6+6: los triples segundo a cuarto suman 0 y los dobles tienen síndrome 0, 1 o 7.
 bool FilaDe6Mas6(const Palabra& p) {
     const int sindrome = SindromeDobles(p, 6);
-    return (p[1] + p[2] + p[3]) % 3 == 0 && (sindrome <= 1 || sindrome == 7);
+    return SumanCero(p, 1) && (sindrome <= 1 || sindrome == 7);
 }
+
+// 9+2: los triples segundo a cuarto suman 0, y también los sexto a octavo.
+bool FilaDe9Mas2(const Palabra& p) { return SumanCero(p, 1) && SumanCero(p, 5); }
 
 // Búsqueda con pesos, con la semilla 1, sobre el espacio entero, en la que solo entran las filas
 // que cumplen "permitida".
@@ -205,7 +211,7 @@ std::vector<Sistema> Sistemas() {
         {11, 8, 2, 72, Pesos(8, 2, 3, 72, {"1211X21X11"}, 9116698107030938076u)},
         {11, 8, 3, 108, Pesos(8, 3, 3, 108, {"1XXXX111111", "11111XXX111"}, 1)},
         {11, 9, 0, 54, Pesos(9, 0, 3, 54, {"1222222X1", "122222X1X"}, 1)},
-        {11, 9, 2, 144, Amalgamada(Tabu(3, 0, 1, 5), 0, Amalgamada(Tabu(4, 1, 1, 18), 0, Tabu(4, 1, 1, 18), 0, 0, 2), 0, 0, 3)},
+        {11, 9, 2, 144, Restringida(9, 2, 3, 144, FilaDe9Mas2)},
         {11, 10, 0, 108, Pesos(10, 0, 3, 108, {"11222222X1", "1122222X1X"}, 1)},
     };
     // clang-format on
