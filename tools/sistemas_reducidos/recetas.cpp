@@ -3,8 +3,10 @@
 #include <algorithm>
 #include <array>
 #include <map>
+#include <optional>
 #include <stdexcept>
 #include <string>
+#include <utility>
 
 #include "clases_laterales.h"
 #include "golay.h"
@@ -27,6 +29,12 @@ Receta Filas(int triples, int dobles, std::vector<std::string> filas) {
     };
 }
 
+// El código que dio una búsqueda; si no llegó a las filas pedidas, la herramienta se para.
+Codigo Hallado(std::optional<Codigo> c, const std::string& busqueda, int filas) {
+    if (!c) throw std::runtime_error(busqueda + " no llegó a " + std::to_string(filas) + " filas");
+    return *std::move(c);
+}
+
 // Varios sistemas usan el mismo código de la búsqueda: se busca una vez.
 Receta Tabu(int triples, int dobles, int radio, int filas) {
     return [=] {
@@ -34,10 +42,7 @@ Receta Tabu(int triples, int dobles, int radio, int filas) {
         const std::array<int, 4> clave{triples, dobles, radio, filas};
         if (const auto h = hallados.find(clave); h != hallados.end()) return h->second;
         auto c = BuscarTabu(Espacio(triples, dobles), radio, filas, 1, kPasos);
-        if (!c) {
-            throw std::runtime_error("la búsqueda no llegó a " + std::to_string(filas) + " filas");
-        }
-        return hallados.emplace(clave, *c).first->second;
+        return hallados.emplace(clave, Hallado(std::move(c), "la búsqueda", filas)).first->second;
     };
 }
 
@@ -60,10 +65,7 @@ Receta Pesos(int triples, int dobles, int radio, int filas, std::vector<std::str
         std::vector<Palabra> g;
         for (const auto& t : generadores) g.push_back(DeTexto(t));
         auto c = BuscarConPesos(Espacio(triples, dobles), radio, filas, g, semilla, kPasosPorGrupo);
-        if (!c)
-            throw std::runtime_error("la búsqueda con pesos no llegó a " + std::to_string(filas) +
-                                     " filas");
-        return *c;
+        return Hallado(std::move(c), "la búsqueda con pesos", filas);
     };
 }
 
@@ -99,10 +101,7 @@ Receta Restringida(int triples, int dobles, int radio, int filas, Permitida perm
     return [=] {
         auto c = BuscarConPesos(Espacio(triples, dobles), radio, filas, {}, 1, kPasosPorGrupo,
                                 permitida);
-        if (!c)
-            throw std::runtime_error("la búsqueda con pesos no llegó a " + std::to_string(filas) +
-                                     " filas");
-        return *c;
+        return Hallado(std::move(c), "la búsqueda con pesos", filas);
     };
 }
 
