@@ -7,7 +7,7 @@
 
 #include "builders/reduction_tables.h"
 #include "tests/builders/development.h"
-#include "tests/builders/larger_systems.h"
+#include "tests/builders/shown_rows.h"
 #include "tests/support/counting_progress.h"
 
 namespace quinteva::builders {

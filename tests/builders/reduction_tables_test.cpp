@@ -9,7 +9,7 @@
 
 #include "base/error.h"
 #include "tests/builders/development.h"
-#include "tests/builders/larger_systems.h"
+#include "tests/builders/shown_rows.h"
 #include "tests/support/counting_progress.h"
 #include "tests/support/fnv.h"
 
