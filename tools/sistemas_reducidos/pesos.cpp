@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <random>
+#include <span>
 #include <utility>
 
 #include "conjunto.h"
@@ -9,28 +10,37 @@
 namespace sistemas {
 namespace {
 
+// Una lista de clases por clase, todas seguidas: la de c es clases[inicio[c] .. inicio[c + 1]).
+struct Listas {
+    std::vector<std::size_t> inicio{0};
+    std::vector<int> clases;
+
+    std::span<const int> De(int c) const {
+        const auto i = static_cast<std::size_t>(c);
+        return {clases.data() + inicio[i], inicio[i + 1] - inicio[i]};
+    }
+};
+
 // Las clases del grupo, con sus vecinas: las clases a distancia <= radio.
 struct Clases {
     std::vector<int> deLaPalabra;
     std::vector<std::int64_t> representantes;
     int tamano = 0;
-    std::vector<std::size_t> inicio;  // vecinas de c: vecinas[inicio[c] .. inicio[c + 1])
-    std::vector<int> vecinas;
+    Listas vecinas;
 
     Clases(const Espacio& e, int radio, const std::vector<Palabra>& generadores)
         : deLaPalabra(static_cast<std::size_t>(e.Palabras()), -1) {
         for (std::int64_t x = 0; x < e.Palabras(); ++x) {
             if (deLaPalabra[static_cast<std::size_t>(x)] < 0) Recorrer(e, x, generadores);
         }
-        inicio.push_back(0);
         for (const std::int64_t r : representantes) {
             std::vector<int> v;
             e.Bola(e.DeIndice(r), radio,
                    [&](std::int64_t y) { v.push_back(deLaPalabra[static_cast<std::size_t>(y)]); });
             std::sort(v.begin(), v.end());
             v.erase(std::unique(v.begin(), v.end()), v.end());
-            vecinas.insert(vecinas.end(), v.begin(), v.end());
-            inicio.push_back(vecinas.size());
+            vecinas.clases.insert(vecinas.clases.end(), v.begin(), v.end());
+            vecinas.inicio.push_back(vecinas.clases.size());
         }
     }
 
@@ -63,13 +73,28 @@ struct Clases {
     }
 };
 
+// Las vecinas de cada clase que pueden entrar en el código, en su orden.
+Listas SoloPermitidas(const Listas& vecinas, const std::vector<bool>& permitidas) {
+    Listas cubridoras;
+    for (std::size_t c = 0; c + 1 < vecinas.inicio.size(); ++c) {
+        for (const int v : vecinas.De(static_cast<int>(c))) {
+            if (permitidas[static_cast<std::size_t>(v)]) cubridoras.clases.push_back(v);
+        }
+        cubridoras.inicio.push_back(cubridoras.clases.size());
+    }
+    return cubridoras;
+}
+
 // El estado de la búsqueda. Los puntos de una clase fuera del código son el peso sin cubrir que
 // cubriría; los de una clase del código, menos el peso que solo ella cubre. "suma" guarda la suma
-// de las clases del código que cubren cada clase: cuando la cubre una sola, es esa.
+// de las clases del código que cubren cada clase: cuando la cubre una sola, es esa. Solo se
+// llevan los puntos de las clases que pueden entrar: las "cubridoras" de una clase son sus
+// vecinas permitidas.
 class Busqueda {
   public:
-    Busqueda(const Clases& clases, std::vector<bool> permitidas)
+    Busqueda(const Clases& clases, const Listas& cubridoras, std::vector<bool> permitidas)
         : k_(clases),
+          cubridoras_(cubridoras),
           permitidas_(std::move(permitidas)),
           cuenta_(k_.Cuantas(), 0),
           suma_(k_.Cuantas(), 0),
@@ -80,7 +105,7 @@ class Busqueda {
           codigo_(k_.Cuantas()),
           sinCubrir_(k_.Cuantas()) {
         for (std::size_t c = 0; c < k_.Cuantas(); ++c) {
-            puntos_[c] = static_cast<std::int64_t>(k_.inicio[c + 1] - k_.inicio[c]);
+            puntos_[c] = static_cast<std::int64_t>(k_.vecinas.De(static_cast<int>(c)).size());
             sinCubrir_.Anadir(static_cast<int>(c));
         }
     }
@@ -92,7 +117,7 @@ class Busqueda {
         codigo_.Anadir(c);
         sello_[I(c)] = paso;
         std::int64_t puntos = 0;
-        Vecinas(c, [&](int y) {
+        for (const int y : k_.vecinas.De(c)) {
             if (++cuenta_[I(y)] == 1) {
                 sinCubrir_.Quitar(y);
                 Repartir(y, -peso_[I(y)]);
@@ -101,7 +126,7 @@ class Busqueda {
                 puntos_[static_cast<std::size_t>(suma_[I(y)])] += peso_[I(y)];
             }
             suma_[I(y)] += c;
-        });
+        }
         puntos_[I(c)] = puntos;
     }
 
@@ -109,7 +134,7 @@ class Busqueda {
         codigo_.Quitar(c);
         sello_[I(c)] = paso;
         std::int64_t puntos = 0;
-        Vecinas(c, [&](int y) {
+        for (const int y : k_.vecinas.De(c)) {
             suma_[I(y)] -= c;
             if (--cuenta_[I(y)] == 0) {
                 sinCubrir_.Anadir(y);
@@ -118,7 +143,7 @@ class Busqueda {
             } else if (cuenta_[I(y)] == 1) {
                 puntos_[static_cast<std::size_t>(suma_[I(y)])] -= peso_[I(y)];
             }
-        });
+        }
         puntos_[I(c)] = puntos;
         libre_[I(c)] = false;
     }
@@ -127,7 +152,7 @@ class Busqueda {
     void Pesar() {
         for (const int y : sinCubrir_.Lista()) {
             ++peso_[I(y)];
-            Vecinas(y, [&](int z) { ++puntos_[I(z)]; });
+            for (const int z : cubridoras_.De(y)) ++puntos_[I(z)];
         }
     }
 
@@ -149,33 +174,22 @@ class Busqueda {
     bool EsPermitida(int c) const { return permitidas_[I(c)]; }
     bool EnCodigo(int c) const { return codigo_.Contiene(c); }
 
-    struct VecinasDe {
-        const int* desde;
-        const int* hasta;
-        const int* begin() const { return desde; }
-        const int* end() const { return hasta; }
-    };
-    VecinasDe De(int c) const {
-        return {k_.vecinas.data() + k_.inicio[I(c)], k_.vecinas.data() + k_.inicio[I(c) + 1]};
-    }
+    // Las clases que pueden entrar para cubrir la clase c.
+    std::span<const int> Cubridoras(int c) const { return cubridoras_.De(c); }
 
   private:
     static std::size_t I(int c) { return static_cast<std::size_t>(c); }
 
-    template <class F>
-    void Vecinas(int c, F&& f) const {
-        for (const int y : De(c)) f(y);
-    }
-
-    // Las clases que cubren y ganan (o pierden) su peso, y han visto un cambio.
+    // Las clases que pueden entrar para cubrir y ganan (o pierden) su peso, y han visto un cambio.
     void Repartir(int y, std::int64_t cambio) {
-        Vecinas(y, [&](int z) {
+        for (const int z : cubridoras_.De(y)) {
             puntos_[I(z)] += cambio;
-            libre_[I(z)] = permitidas_[I(z)];
-        });
+            libre_[I(z)] = true;
+        }
     }
 
     const Clases& k_;
+    const Listas& cubridoras_;
     const std::vector<bool> permitidas_;
     std::vector<int> cuenta_;
     std::vector<std::int64_t> suma_;
@@ -212,7 +226,10 @@ std::optional<Codigo> BuscarConPesos(const Espacio& e, int radio, int filas,
         for (std::size_t c = 0; c < permitidas.size(); ++c)
             permitidas[c] = permitida(e.DeIndice(clases.representantes[c]));
     }
-    Busqueda b(clases, std::move(permitidas));
+    const bool todasPermitidas = std::ranges::find(permitidas, false) == permitidas.end();
+    const Listas cubridoras =
+        todasPermitidas ? Listas{} : SoloPermitidas(clases.vecinas, permitidas);
+    Busqueda b(clases, todasPermitidas ? clases.vecinas : cubridoras, std::move(permitidas));
     std::mt19937_64 azar(semilla);
     std::int64_t paso = 0;
     // Al principio, con avidez, hasta que no quede ninguna clase sin cubrir.
@@ -234,7 +251,7 @@ std::optional<Codigo> BuscarConPesos(const Espacio& e, int radio, int filas,
         if (sale < 0) sale = entro;
         b.Salir(sale, paso);
         const int y = b.SinCubrir()[azar() % b.SinCubrir().size()];
-        const int entra = b.Mejor(b.De(y), [&](int c) { return b.Libre(c); });
+        const int entra = b.Mejor(b.Cubridoras(y), [&](int c) { return b.Libre(c); });
         entro = entra < 0 ? sale : entra;
         b.Entrar(entro, paso);
         b.Pesar();
