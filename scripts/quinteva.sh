@@ -11,7 +11,7 @@ cd "$raiz"
 
 paquetes=(
   cmake ninja-build g++ clang libclang-rt-14-dev pkg-config
-  qt6-base-dev qt6-base-dev-tools qt6-charts-dev libquazip1-qt6-dev libgl-dev
+  qt6-base-dev qt6-base-dev-tools qt6-charts-dev libqt6opengl6-dev libquazip1-qt6-dev libgl-dev
   libgtest-dev libgmock-dev libbenchmark-dev fonts-dejavu-core
 )
 
