@@ -9,11 +9,8 @@ orden="${1:-ejecutar}"
 raiz="$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)"
 cd "$raiz"
 
-paquetes=(
-  cmake ninja-build g++ clang libclang-rt-14-dev pkg-config
-  qt6-base-dev qt6-base-dev-tools qt6-charts-dev libqt6opengl6-dev libquazip1-qt6-dev libgl-dev
-  libgtest-dev libgmock-dev libbenchmark-dev fonts-dejavu-core
-)
+# La lista de paquetes de Debian, sin comentarios ni líneas vacías.
+mapfile -t paquetes < <(sed 's/#.*//; /^[[:space:]]*$/d' scripts/paquetes.txt)
 
 instalar_lo_que_falta() {
   local faltan=()
@@ -54,6 +51,7 @@ case "$orden" in
     exec build/dev/app/quinteva "${@:2}"
     ;;
   pruebas)
+    scripts/comprobar_paquetes.sh
     compilar dev
     QT_QPA_PLATFORM=offscreen ctest --preset dev -j "$(nproc)"
     fuzz
