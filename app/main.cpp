@@ -7,11 +7,13 @@
 #include <QTimer>
 
 #include "base/error.h"
+#include "base/program_data.h"
 #include "base/working_folder.h"
 #include "ui/dialog_qt.h"
 #include "ui/main_window.h"
 #include "ui/program_reducer.h"
 #include "ui/settings_qt.h"
+#include "ui/spanish_texts.h"
 #include "ui/working_folder_qt.h"
 
 namespace {
@@ -40,6 +42,8 @@ QPixmap Presentacion() {
 int main(int argc, char** argv) {
     QApplication aplicacion(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Quinteva"));
+    QApplication::setDesktopFileName(QStringLiteral("quinteva"));
+    quinteva::ui::TextosDeQtEnEspanol(aplicacion);
     quinteva::ui::DialogoQt dialogo;
 
     QLockFile unaSolaCopia(QDir::temp().filePath(
@@ -59,9 +63,12 @@ int main(int argc, char** argv) {
         return 1;
     }
     quinteva::ui::AjustesQt ajustes(carpeta);
+    dialogo.FijarAjustes(ajustes);
     const std::filesystem::path programa = QApplication::applicationDirPath().toStdString();
     quinteva::ui::ReductorDelPrograma reductor;
-    quinteva::ui::VentanaPrincipal ventana({carpeta, programa, ajustes, dialogo, &reductor});
+    quinteva::ui::VentanaPrincipal ventana({carpeta, programa,
+                                            quinteva::base::CarpetaDatosPrograma(programa), ajustes,
+                                            dialogo, &reductor});
     dialogo.FijarMadre(&ventana);
     const QStringList argumentos = QApplication::arguments();
     std::optional<std::filesystem::path> archivo;

@@ -11,6 +11,12 @@ std::span<const Subcomando> Subcomandos() {
          "La temporada actual, su carpeta y los registros de cada archivo de la temporada.",
          {},
          &Temporada},
+        {"demo",
+         "demo [--carpeta DIR] [--json]",
+         "Instala en una carpeta de trabajo sin temporada la de demostración que trae el "
+         "programa, como su primer arranque.",
+         {},
+         &Demo},
         {"nueva",
          "nueva RUTA.uxd --base \"1X2 1 X 12 ...\" --pleno H-A [--jornada N] [--carpeta DIR]",
          "Una Combinación nueva con esa Quiniela Base y las condiciones por defecto, guardada.",

@@ -22,6 +22,7 @@ std::span<const Subcomando> Subcomandos();
 
 // Cada subcomando vive en su archivo.
 int Temporada(const Argumentos& argumentos, std::ostream& salida);
+int Demo(const Argumentos& argumentos, std::ostream& salida);
 int Nueva(const Argumentos& argumentos, std::ostream& salida);
 int Info(const Argumentos& argumentos, std::ostream& salida);
 int GenerarCmd(const Argumentos& argumentos, std::ostream& salida);

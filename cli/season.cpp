@@ -1,8 +1,12 @@
 #include <sstream>
 
+#include "base/error.h"
+#include "base/program_data.h"
 #include "base/record_files.h"
+#include "base/working_folder.h"
 #include "cli/commands.h"
 #include "cli/json_output.h"
+#include "seasons/demo_season.h"
 #include "seasons/season_folder.h"
 
 namespace quinteva::cli {
@@ -44,6 +48,29 @@ int Temporada(const Argumentos& argumentos, std::ostream& salida) {
         salida << "Temporada actual: ninguna (no hay \"Tempor.rar\")\n";
     }
     salida << archivos.str();
+    return 0;
+}
+
+int Demo(const Argumentos& argumentos, std::ostream& salida) {
+    argumentos.ExigirPosicionales(0, "demo [--carpeta DIR] [--json]");
+    const auto carpetaTrabajo = argumentos.CarpetaTrabajo();
+    const auto datos = base::CarpetaDatosPrograma(base::CarpetaEjecutable());
+    if (!seasons::TemporadaActual(datos / seasons::kCarpetaDemo)) {
+        throw base::Error("El programa no trae la temporada de demostración (se buscó en " +
+                          (datos / seasons::kCarpetaDemo).string() + ")");
+    }
+    base::AsegurarCarpeta(carpetaTrabajo);
+    const bool instalada = seasons::InstalarTemporadaDemo(datos, carpetaTrabajo);
+    const auto actual = seasons::TemporadaActual(carpetaTrabajo);
+    if (argumentos.Json()) {
+        salida << "{\"Instalada\": " << (instalada ? "true" : "false")
+               << ", \"CarpetaDatos\": " << TextoJson(datos.string())
+               << ", \"TemporadaActual\": " << TextoJson(actual.value_or("")) << "}\n";
+        return 0;
+    }
+    salida << (instalada ? "Instalada la temporada de demostración: "
+                         : "La carpeta de trabajo ya tenía temporada: ")
+           << actual.value_or("") << '\n';
     return 0;
 }
 

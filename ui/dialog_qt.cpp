@@ -5,6 +5,8 @@
 #include <QMessageBox>
 #include <QStringList>
 
+#include "ui/dialog_folder.h"
+
 namespace quinteva::ui {
 namespace {
 
@@ -26,11 +28,6 @@ QString FiltroQt(std::string_view filtro) {
                        QLatin1Char(')');
     }
     return filtros.join(QStringLiteral(";;"));
-}
-
-std::optional<std::filesystem::path> Elegida(const QString& ruta) {
-    if (ruta.isEmpty()) return std::nullopt;
-    return std::filesystem::path(ruta.toStdString());
 }
 
 base::Respuesta DeBoton(int boton) {
@@ -100,21 +97,40 @@ std::optional<std::string> DialogoQt::PedirTexto(std::string_view texto, std::st
     return valor.toStdString();
 }
 
+std::filesystem::path DialogoQt::Inicial(const std::filesystem::path& dada) const {
+    const std::string ultima =
+        ajustes_ != nullptr ? ajustes_->Leer(base::kAplicacion, "Valores", kUltimaCarpeta, "") : "";
+    return CarpetaDelDialogo(dada, ultima, DocumentosDelUsuario());
+}
+
+std::optional<std::filesystem::path> DialogoQt::Recordar(const QString& elegida,
+                                                         const std::filesystem::path& carpeta) {
+    if (elegida.isEmpty()) return std::nullopt;
+    if (ajustes_ != nullptr) {
+        ajustes_->Guardar(base::kAplicacion, "Valores", kUltimaCarpeta, carpeta.string());
+    }
+    return std::filesystem::path(elegida.toStdString());
+}
+
 std::optional<std::filesystem::path> DialogoQt::ArchivoParaAbrir(
     std::string_view titulo, std::string_view filtro, const std::filesystem::path& carpeta) {
-    return Elegida(
-        QFileDialog::getOpenFileName(madre_, Q(titulo), Ruta(carpeta), FiltroQt(filtro)));
+    const QString elegida =
+        QFileDialog::getOpenFileName(madre_, Q(titulo), Ruta(Inicial(carpeta)), FiltroQt(filtro));
+    return Recordar(elegida, std::filesystem::path(elegida.toStdString()).parent_path());
 }
 
 std::optional<std::filesystem::path> DialogoQt::ArchivoParaGuardar(
     std::string_view titulo, std::string_view filtro, const std::filesystem::path& inicial) {
-    return Elegida(
-        QFileDialog::getSaveFileName(madre_, Q(titulo), Ruta(inicial), FiltroQt(filtro)));
+    const QString elegida =
+        QFileDialog::getSaveFileName(madre_, Q(titulo), Ruta(Inicial(inicial)), FiltroQt(filtro));
+    return Recordar(elegida, std::filesystem::path(elegida.toStdString()).parent_path());
 }
 
 std::optional<std::filesystem::path> DialogoQt::Carpeta(std::string_view titulo,
                                                         const std::filesystem::path& inicial) {
-    return Elegida(QFileDialog::getExistingDirectory(madre_, Q(titulo), Ruta(inicial)));
+    const QString elegida =
+        QFileDialog::getExistingDirectory(madre_, Q(titulo), Ruta(Inicial(inicial)));
+    return Recordar(elegida, elegida.toStdString());
 }
 
 }  // namespace quinteva::ui

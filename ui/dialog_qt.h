@@ -1,17 +1,25 @@
 #pragma once
 
+#include <QString>
+
 #include "base/dialog.h"
+#include "base/settings.h"
 
 class QWidget;
 
 namespace quinteva::ui {
 
+// La última carpeta elegida en un diálogo de archivos, entre una sesión y otra.
+inline constexpr std::string_view kUltimaCarpeta = "UltCarpeta";
+
 // El Dialogo del programa: cajas de mensaje, de entrada y de archivos de Qt, con el título
-// "Quinteva" y la ventana dada como madre.
+// "Quinteva" y la ventana dada como madre. Los diálogos de archivos se abren donde dice
+// CarpetaDelDialogo, con la última carpeta elegida guardada en los ajustes, si los tiene.
 class DialogoQt : public base::Dialogo {
   public:
     explicit DialogoQt(QWidget* madre = nullptr) : madre_(madre) {}
     void FijarMadre(QWidget* madre) { madre_ = madre; }
+    void FijarAjustes(base::Ajustes& ajustes) { ajustes_ = &ajustes; }
 
     void Mensaje(std::string_view texto, base::Icono icono) override;
     base::Respuesta PreguntaSiNo(std::string_view texto, base::Respuesta porDefecto) override;
@@ -30,7 +38,13 @@ class DialogoQt : public base::Dialogo {
                                                  const std::filesystem::path& inicial) override;
 
   private:
+    std::filesystem::path Inicial(const std::filesystem::path& dada) const;
+    // La carpeta de lo elegido pasa a ser la última; nada si el usuario canceló.
+    std::optional<std::filesystem::path> Recordar(const QString& elegida,
+                                                  const std::filesystem::path& carpeta);
+
     QWidget* madre_;
+    base::Ajustes* ajustes_ = nullptr;
 };
 
 }  // namespace quinteva::ui

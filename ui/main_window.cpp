@@ -11,6 +11,7 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScrollArea>
 #include <QStackedWidget>
 #include <QStatusBar>
 #include <QStyle>
@@ -136,7 +137,14 @@ void VentanaPrincipal::CrearPaginas() {
         paginas_->addWidget(p);
     }
     caja->addWidget(paginas_, 1);
-    setCentralWidget(central);
+    // En una pantalla pequeña, o con la escala al 150 %, las páginas se desplazan en vez de
+    // quedar cortadas: todo sigue al alcance.
+    auto* desplazable = new QScrollArea(this);
+    desplazable->setObjectName(QStringLiteral("AreaCentral"));
+    desplazable->setWidgetResizable(true);
+    desplazable->setFrameShape(QFrame::NoFrame);
+    desplazable->setWidget(central);
+    setCentralWidget(desplazable);
 
     connect(base_, &PaginaBase::jornadaElegida, this, &VentanaPrincipal::ElegirJornada);
     connect(base_, &PaginaBase::signoPulsado, this, &VentanaPrincipal::SignoPulsado);
@@ -187,14 +195,19 @@ void VentanaPrincipal::AbrirVentana(QDialog* ventana) {
 void VentanaPrincipal::CrearMenus() {
     QMenu* archivo = menuBar()->addMenu(QStringLiteral("&Archivo"));
     archivo->setObjectName(QStringLiteral("MenuArchivo"));
-    connect(Accion(archivo, QStringLiteral("&Nueva Quiniela"), QStringLiteral("AccionNueva")),
-            &QAction::triggered, this, &VentanaPrincipal::Nueva);
-    connect(Accion(archivo, QStringLiteral("&Abrir..."), QStringLiteral("AccionAbrir")),
-            &QAction::triggered, this, &VentanaPrincipal::AbrirArchivo);
+    QAction* nueva =
+        Accion(archivo, QStringLiteral("&Nueva Quiniela"), QStringLiteral("AccionNueva"));
+    nueva->setShortcut(Qt::CTRL | Qt::Key_N);
+    connect(nueva, &QAction::triggered, this, &VentanaPrincipal::Nueva);
+    QAction* abrir = Accion(archivo, QStringLiteral("&Abrir..."), QStringLiteral("AccionAbrir"));
+    abrir->setShortcut(Qt::CTRL | Qt::Key_O);
+    connect(abrir, &QAction::triggered, this, &VentanaPrincipal::AbrirArchivo);
     guardar_ = Accion(archivo, QStringLiteral("&Guardar..."), QStringLiteral("AccionGuardar"));
+    guardar_->setShortcut(Qt::CTRL | Qt::Key_S);
     connect(guardar_, &QAction::triggered, this, &VentanaPrincipal::Guardar);
     guardarComo_ =
         Accion(archivo, QStringLiteral("G&uardar como"), QStringLiteral("AccionGuardarComo"));
+    guardarComo_->setShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_S);
     connect(guardarComo_, &QAction::triggered, this, &VentanaPrincipal::GuardarComo);
     copiar_ = Accion(archivo, QStringLiteral("C&opiar condiciones"),
                      QStringLiteral("AccionCopiarCondiciones"));
@@ -213,8 +226,9 @@ void VentanaPrincipal::CrearMenus() {
                 [this, i] { AbrirReciente(static_cast<int>(i) + 1); });
     }
     archivo->addSeparator();
-    connect(Accion(archivo, QStringLiteral("&Salir"), QStringLiteral("AccionSalir")),
-            &QAction::triggered, this, &QWidget::close);
+    QAction* salir = Accion(archivo, QStringLiteral("&Salir"), QStringLiteral("AccionSalir"));
+    salir->setShortcut(Qt::CTRL | Qt::Key_Q);
+    connect(salir, &QAction::triggered, this, &QWidget::close);
 
     QMenu* ver = menuBar()->addMenu(QStringLiteral("&Ver"));
     ver->setObjectName(QStringLiteral("MenuVer"));
@@ -316,7 +330,7 @@ void VentanaPrincipal::CrearBarra() {
 void VentanaPrincipal::Arrancar(const std::optional<fs::path>& argumento) {
     try {
         QDir::setCurrent(QString::fromStdString(s_.carpetaPrograma.string()));
-        seasons::InstalarTemporadaDemo(s_.carpetaPrograma, s_.carpetaTrabajo);
+        seasons::InstalarTemporadaDemo(s_.carpetaDatos, s_.carpetaTrabajo);
         temporada_ = seasons::PrepararTemporada(s_.carpetaPrograma, s_.carpetaTrabajo, s_.ajustes);
         temporadaEtiqueta_->setText(Q(temporada_.temporadaActual));
         const std::string pena = s_.ajustes.Leer(base::kAplicacion, kValores, "NPeña", "");

@@ -35,12 +35,13 @@ class PaginaReducir;
 class PaginaBoletos;
 class PanelEstadoQt;
 
-// Lo que la ventana principal toma del programa: la carpeta de trabajo, la del programa (la que
-// trae la temporada de demostración), los ajustes, el Dialogo por el que habla con el usuario y la
-// reducción (sin ella la página "Reducir" no reduce).
+// Lo que la ventana principal toma del programa: la carpeta de trabajo, la del programa (la de su
+// ejecutable), la de los datos que trae (la temporada de demostración), los ajustes, el Dialogo
+// por el que habla con el usuario y la reducción (sin ella la página "Reducir" no reduce).
 struct Servicios {
     std::filesystem::path carpetaTrabajo;
     std::filesystem::path carpetaPrograma;
+    std::filesystem::path carpetaDatos;
     base::Ajustes& ajustes;
     base::Dialogo& dialogo;
     Reductor* reductor = nullptr;

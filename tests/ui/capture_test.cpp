@@ -3,6 +3,7 @@
 #include <QImage>
 #include <QLineEdit>
 #include <QRadioButton>
+#include <QScrollArea>
 #include <QTabWidget>
 #include <QtTest>
 
@@ -83,6 +84,36 @@ class PruebaCapturas : public QObject {
         Capturar(*w, QStringLiteral("pagina_4_boletos"));
         CapturarVentanasDeBoletos(inst, *w);
         CapturarVentanasDeAciertos(inst, *w);
+    }
+
+    // La ventana principal a la medida de la pantalla de un portátil, 1366x768 al 100 %, y de
+    // una de 1920x1080 al 150 % (en prueba_ui_capturas_150), menos la barra del escritorio y el
+    // título: cabe, y el panel de información de los partidos se alcanza desplazando.
+    void VentanaPrincipalEnPantallasPequenas() {
+        const qreal escala = qEnvironmentVariable("QT_SCALE_FACTOR", "1").toDouble();
+        const QSize pantalla = escala > 1 ? QSize(1920, 1080) : QSize(1366, 768);
+        const QSize disponible = (pantalla - QSize(0, 72)) / escala;
+        pruebas::Instalacion inst;
+        auto v = inst.Ventana();
+        v->resize(disponible);
+        QTRY_COMPARE(v->size(), disponible);
+        pruebas::ElegirJornada(*v, 25);
+        pruebas::BaseDeEjemplo(*v);
+        pruebas::Pulsar(Hijo<QTableWidget>(*v, "RejillaBase"), 0, 1);
+        const QString nombre =
+            QStringLiteral("ventana_principal_%1x%2").arg(pantalla.width()).arg(pantalla.height());
+        Capturar(*v, nombre);
+        auto* area = Hijo<QScrollArea>(*v, "AreaCentral");
+        auto* panel = Hijo<QWidget>(*v, "PanelInfo");
+        area->ensureWidgetVisible(panel, 0, 0);
+        const QRect visible = area->viewport()->rect();
+        const QRect enElArea(panel->mapTo(area->viewport(), QPoint(0, 0)), panel->size());
+        QVERIFY2(visible.contains(enElArea.topLeft()) &&
+                     enElArea.left() + enElArea.width() / 2 <= visible.right(),
+                 "El panel de información queda fuera de la vista");
+        Capturar(*v, nombre + QStringLiteral("_panel"));
+        pruebas::Pagina(*v, ui::kCondicion);
+        Capturar(*v, nombre + QStringLiteral("_condiciones"));
     }
 
     // Cada ventana que se abre desde la página Boletos y los menús, sobre la Combinación dada.

@@ -18,8 +18,9 @@ struct ProgramaReal {
     ui::ReductorDelPrograma reductor;
 
     std::unique_ptr<ui::VentanaPrincipal> Ventana() {
-        auto v = std::make_unique<ui::VentanaPrincipal>(ui::Servicios{
-            inst.trabajo.Ruta(), inst.programa.Ruta(), inst.ajustes, inst.dialogo, &reductor});
+        auto v = std::make_unique<ui::VentanaPrincipal>(
+            ui::Servicios{inst.trabajo.Ruta(), inst.programa.Ruta(), inst.programa.Ruta(),
+                          inst.ajustes, inst.dialogo, &reductor});
         v->Arrancar(std::nullopt);
         v->show();
         if (!QTest::qWaitForWindowExposed(v.get())) qFatal("La ventana no se muestra");

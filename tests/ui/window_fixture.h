@@ -41,8 +41,8 @@ struct Instalacion {
 
     std::unique_ptr<ui::VentanaPrincipal> Ventana(
         const std::optional<std::filesystem::path>& argumento = std::nullopt) {
-        auto v = std::make_unique<ui::VentanaPrincipal>(
-            ui::Servicios{trabajo.Ruta(), programa.Ruta(), ajustes, dialogo, &reductor});
+        auto v = std::make_unique<ui::VentanaPrincipal>(ui::Servicios{
+            trabajo.Ruta(), programa.Ruta(), programa.Ruta(), ajustes, dialogo, &reductor});
         v->Arrancar(argumento);
         v->show();
         if (!QTest::qWaitForWindowExposed(v.get())) qFatal("La ventana no se muestra");
