@@ -103,7 +103,7 @@ class PruebaPlataforma : public QObject {
             guardar = SinAtajo(botones->button(QDialogButtonBox::Save)->text());
             Hijo<QLineEdit>(caja, QStringLiteral("fileNameEdit"))
                 ->setText(QString::fromStdString((casa_ / "Quinielas" / "Jornada.uxd").string()));
-            archivos.accept();
+            botones->button(QDialogButtonBox::Save)->click();
         });
         const auto elegida = dialogo.ArchivoParaGuardar("Guardar como", engine::kFiltroUxd, {});
         QCOMPARE(carpeta, QString::fromStdString((casa_ / "Documents").string()));
