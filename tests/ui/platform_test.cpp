@@ -107,7 +107,7 @@ class PruebaPlataforma : public QObject {
         });
         const auto elegida = dialogo.ArchivoParaGuardar("Guardar como", engine::kFiltroUxd, {});
         QCOMPARE(carpeta, QString::fromStdString((casa_ / "Documents").string()));
-        QCOMPARE(buscarEn, QStringLiteral("Buscar en:"));
+        QCOMPARE(buscarEn, QStringLiteral("Ver en:"));
         QCOMPARE(nombre, QStringLiteral("Nombre de archivo:"));
         QCOMPARE(guardar, QStringLiteral("Guardar"));
         QVERIFY(elegida.has_value());
@@ -152,11 +152,11 @@ class PruebaPlataforma : public QObject {
                 ->shortcut()
                 .toString(QKeySequence::NativeText);
         };
-        QCOMPARE(atajo("AccionNueva"), QStringLiteral("Ctrl+N"));
-        QCOMPARE(atajo("AccionAbrir"), QStringLiteral("Ctrl+O"));
-        QCOMPARE(atajo("AccionGuardar"), QStringLiteral("Ctrl+S"));
-        QCOMPARE(atajo("AccionGuardarComo"), QStringLiteral("Ctrl+Mayús+S"));
-        QCOMPARE(atajo("AccionSalir"), QStringLiteral("Ctrl+Q"));
+        QCOMPARE(atajo("AccionNueva"), QStringLiteral("Control+N"));
+        QCOMPARE(atajo("AccionAbrir"), QStringLiteral("Control+O"));
+        QCOMPARE(atajo("AccionGuardar"), QStringLiteral("Control+S"));
+        QCOMPARE(atajo("AccionGuardarComo"), QStringLiteral("Control+Mayús+S"));
+        QCOMPARE(atajo("AccionSalir"), QStringLiteral("Control+Q"));
         // Ctrl+Q cierra el programa (sin nada que guardar, sin preguntar).
         QTest::keyClick(v.get(), Qt::Key_Q, Qt::ControlModifier);
         QTRY_VERIFY(!v->isVisible());
