@@ -108,7 +108,7 @@ class PruebaPlataforma : public QObject {
         const auto elegida = dialogo.ArchivoParaGuardar("Guardar como", engine::kFiltroUxd, {});
         QCOMPARE(carpeta, QString::fromStdString((casa_ / "Documents").string()));
         QCOMPARE(buscarEn, QStringLiteral("Ver en:"));
-        QCOMPARE(nombre, QStringLiteral("Nombre de archivo:"));
+        QCOMPARE(SinAtajo(nombre), QStringLiteral("Nombre de fichero:"));
         QCOMPARE(guardar, QStringLiteral("Guardar"));
         QVERIFY(elegida.has_value());
         QCOMPARE(elegida->filename().string(), std::string("Jornada.uxd"));
@@ -155,7 +155,7 @@ class PruebaPlataforma : public QObject {
         QCOMPARE(atajo("AccionNueva"), QStringLiteral("Control+N"));
         QCOMPARE(atajo("AccionAbrir"), QStringLiteral("Control+O"));
         QCOMPARE(atajo("AccionGuardar"), QStringLiteral("Control+S"));
-        QCOMPARE(atajo("AccionGuardarComo"), QStringLiteral("Control+Mayús+S"));
+        QCOMPARE(atajo("AccionGuardarComo"), QStringLiteral("Control+Mayúsculas+S"));
         QCOMPARE(atajo("AccionSalir"), QStringLiteral("Control+Q"));
         // Ctrl+Q cierra el programa (sin nada que guardar, sin preguntar).
         QTest::keyClick(v.get(), Qt::Key_Q, Qt::ControlModifier);
