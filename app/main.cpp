@@ -75,10 +75,15 @@ int main(int argc, char** argv) {
     if (argumentos.size() > 1) archivo = argumentos.at(1).toStdString();
     ventana.Arrancar(archivo);
 
+    // Centrada si cabe con su marco y su título; si no, ocupa la pantalla entera.
     const QRect pantalla = ventana.screen()->availableGeometry();
-    ventana.resize(ventana.size().boundedTo(pantalla.size()));
-    ventana.move(pantalla.center() - ventana.rect().center());
-    ventana.show();
+    const QSize conMarco = ventana.size() + QSize(16, 48);
+    if (conMarco.width() <= pantalla.width() && conMarco.height() <= pantalla.height()) {
+        ventana.move(pantalla.center() - ventana.rect().center());
+        ventana.show();
+    } else {
+        ventana.showMaximized();
+    }
     QTimer::singleShot(800, &presentacion, &QWidget::close);
     QTimer::singleShot(0, &ventana, &quinteva::ui::VentanaPrincipal::Bienvenida);
     return QApplication::exec();

@@ -97,7 +97,8 @@ VentanaPrincipal::VentanaPrincipal(Servicios servicios, QWidget* madre)
         Refrescar();
     });
     Refrescar();
-    resize(1180, 720);
+    // Lo que piden las páginas sin desplazarse: cabe en una pantalla de 1366x768.
+    resize(1260, 690);
 }
 
 VentanaPrincipal::~VentanaPrincipal() {
