@@ -75,13 +75,15 @@ int main(int argc, char** argv) {
     if (argumentos.size() > 1) archivo = argumentos.at(1).toStdString();
     ventana.Arrancar(archivo);
 
-    // Centrada si cabe con su marco y su título; si no, ocupa la pantalla entera.
+    // Centrada si cabe con su marco y su título; si no, ocupa la pantalla entera (también sin
+    // gestor de ventanas que la maximice), y las páginas se desplazan.
     const QRect pantalla = ventana.screen()->availableGeometry();
-    const QSize conMarco = ventana.size() + QSize(16, 48);
-    if (conMarco.width() <= pantalla.width() && conMarco.height() <= pantalla.height()) {
+    const QSize marco(16, 48);
+    if ((ventana.size() + marco).boundedTo(pantalla.size()) == ventana.size() + marco) {
         ventana.move(pantalla.center() - ventana.rect().center());
         ventana.show();
     } else {
+        ventana.setGeometry(QRect(pantalla.topLeft(), pantalla.size() - marco));
         ventana.showMaximized();
     }
     QTimer::singleShot(800, &presentacion, &QWidget::close);
