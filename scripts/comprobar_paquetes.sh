@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Comprueba que la lista de paquetes trae todo lo que lee la configuración: cada archivo de CMake
+# Comprueba que la lista de paquetes trae cuanto lee la configuración: cada archivo de CMake
 # que lee la configuración del preajuste dev, fuera del proyecto, es de un paquete de Debian que la
 # lista instala, por sí o por sus Depends (sin Recommends). Así un paquete puesto a mano en una
 # máquina no esconde lo que a otra le faltaría.

@@ -103,34 +103,34 @@ std::filesystem::path DialogoQt::Inicial(const std::filesystem::path& dada) cons
     return CarpetaDelDialogo(dada, ultima, DocumentosDelUsuario());
 }
 
-std::optional<std::filesystem::path> DialogoQt::Recordar(const QString& elegida,
-                                                         const std::filesystem::path& carpeta) {
-    if (elegida.isEmpty()) return std::nullopt;
+std::optional<std::filesystem::path> DialogoQt::Elegida(const QString& ruta, bool esCarpeta) {
+    if (ruta.isEmpty()) return std::nullopt;
+    const std::filesystem::path elegida = ruta.toStdString();
     if (ajustes_ != nullptr) {
+        const auto carpeta = esCarpeta ? elegida : elegida.parent_path();
         ajustes_->Guardar(base::kAplicacion, "Valores", kUltimaCarpeta, carpeta.string());
     }
-    return std::filesystem::path(elegida.toStdString());
+    return elegida;
 }
 
 std::optional<std::filesystem::path> DialogoQt::ArchivoParaAbrir(
     std::string_view titulo, std::string_view filtro, const std::filesystem::path& carpeta) {
-    const QString elegida =
-        QFileDialog::getOpenFileName(madre_, Q(titulo), Ruta(Inicial(carpeta)), FiltroQt(filtro));
-    return Recordar(elegida, std::filesystem::path(elegida.toStdString()).parent_path());
+    return Elegida(
+        QFileDialog::getOpenFileName(madre_, Q(titulo), Ruta(Inicial(carpeta)), FiltroQt(filtro)),
+        false);
 }
 
 std::optional<std::filesystem::path> DialogoQt::ArchivoParaGuardar(
     std::string_view titulo, std::string_view filtro, const std::filesystem::path& inicial) {
-    const QString elegida =
-        QFileDialog::getSaveFileName(madre_, Q(titulo), Ruta(Inicial(inicial)), FiltroQt(filtro));
-    return Recordar(elegida, std::filesystem::path(elegida.toStdString()).parent_path());
+    return Elegida(
+        QFileDialog::getSaveFileName(madre_, Q(titulo), Ruta(Inicial(inicial)), FiltroQt(filtro)),
+        false);
 }
 
 std::optional<std::filesystem::path> DialogoQt::Carpeta(std::string_view titulo,
                                                         const std::filesystem::path& inicial) {
-    const QString elegida =
-        QFileDialog::getExistingDirectory(madre_, Q(titulo), Ruta(Inicial(inicial)));
-    return Recordar(elegida, elegida.toStdString());
+    return Elegida(QFileDialog::getExistingDirectory(madre_, Q(titulo), Ruta(Inicial(inicial))),
+                   true);
 }
 
 }  // namespace quinteva::ui

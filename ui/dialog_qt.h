@@ -39,9 +39,9 @@ class DialogoQt : public base::Dialogo {
 
   private:
     std::filesystem::path Inicial(const std::filesystem::path& dada) const;
-    // La carpeta de lo elegido pasa a ser la última; nada si el usuario canceló.
-    std::optional<std::filesystem::path> Recordar(const QString& elegida,
-                                                  const std::filesystem::path& carpeta);
+    // Lo elegido (nada si el usuario canceló): su carpeta, o ella misma si es una carpeta, pasa a
+    // ser la última.
+    std::optional<std::filesystem::path> Elegida(const QString& ruta, bool esCarpeta);
 
     QWidget* madre_;
     base::Ajustes* ajustes_ = nullptr;

@@ -139,7 +139,7 @@ void VentanaPrincipal::CrearPaginas() {
     }
     caja->addWidget(paginas_, 1);
     // En una pantalla pequeña, o con la escala al 150 %, las páginas se desplazan en vez de
-    // quedar cortadas: todo sigue al alcance.
+    // quedar cortadas: nada queda fuera de alcance.
     auto* desplazable = new QScrollArea(this);
     desplazable->setObjectName(QStringLiteral("AreaCentral"));
     desplazable->setWidgetResizable(true);
