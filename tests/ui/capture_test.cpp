@@ -22,6 +22,7 @@
 #include "ui/options_window.h"
 #include "ui/remove_columns_window.h"
 #include "ui/report_windows.h"
+#include "ui/spanish_texts.h"
 #include "ui/text_type_window.h"
 
 using namespace quinteva;
@@ -51,6 +52,9 @@ class PruebaCapturas : public QObject {
     }
 
   private slots:
+    // Como las ve el usuario: con los textos de Qt en español.
+    void initTestCase() { QVERIFY(ui::TextosDeQtEnEspanol(*qApp)); }
+
     void VentanaPrincipalEnCadaPaginaYPestana() {
         pruebas::Instalacion inst;
         auto v = inst.Ventana();
