@@ -23,8 +23,9 @@ class Dialogo {
                                    Respuesta porDefecto = Respuesta::Si) = 0;
     virtual Respuesta PreguntaSiNoCancelar(std::string_view texto,
                                            Respuesta porDefecto = Respuesta::Si) = 0;
-    // Aceptar / Cancelar.
-    virtual Respuesta AceptarCancelar(std::string_view texto) = 0;
+    // Aceptar / Cancelar; porDefecto es el botón que toma Intro.
+    virtual Respuesta AceptarCancelar(std::string_view texto,
+                                      Respuesta porDefecto = Respuesta::Aceptar) = 0;
     // Caja de entrada: nullopt si el usuario cancela.
     virtual std::optional<std::string> PedirTexto(std::string_view texto, std::string_view titulo,
                                                   std::string_view inicial = {}) = 0;

@@ -14,7 +14,7 @@ base::Respuesta DialogoDeOrdenes::PreguntaSiNoCancelar(std::string_view, base::R
     return base::Respuesta::Si;
 }
 
-base::Respuesta DialogoDeOrdenes::AceptarCancelar(std::string_view) {
+base::Respuesta DialogoDeOrdenes::AceptarCancelar(std::string_view, base::Respuesta) {
     return base::Respuesta::Aceptar;
 }
 

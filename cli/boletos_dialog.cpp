@@ -36,7 +36,7 @@ base::Respuesta DialogoDeBoletos::PreguntaSiNoCancelar(std::string_view texto, b
     return Contestar(texto, base::Respuesta::Si);
 }
 
-base::Respuesta DialogoDeBoletos::AceptarCancelar(std::string_view texto) {
+base::Respuesta DialogoDeBoletos::AceptarCancelar(std::string_view texto, base::Respuesta) {
     return Contestar(texto, base::Respuesta::Aceptar);
 }
 

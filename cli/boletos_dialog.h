@@ -22,7 +22,7 @@ class DialogoDeBoletos final : public DialogoDeOrdenes {
     base::Respuesta PreguntaSiNo(std::string_view texto, base::Respuesta porDefecto) override;
     base::Respuesta PreguntaSiNoCancelar(std::string_view texto,
                                          base::Respuesta porDefecto) override;
-    base::Respuesta AceptarCancelar(std::string_view texto) override;
+    base::Respuesta AceptarCancelar(std::string_view texto, base::Respuesta porDefecto) override;
 
   private:
     base::Respuesta Contestar(std::string_view texto, base::Respuesta siguiendo);

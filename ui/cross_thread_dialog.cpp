@@ -38,8 +38,9 @@ base::Respuesta DialogoEntreHilos::PreguntaSiNoCancelar(std::string_view texto,
     return EnLaVentana([&](base::Dialogo& d) { return d.PreguntaSiNoCancelar(texto, porDefecto); });
 }
 
-base::Respuesta DialogoEntreHilos::AceptarCancelar(std::string_view texto) {
-    return EnLaVentana([&](base::Dialogo& d) { return d.AceptarCancelar(texto); });
+base::Respuesta DialogoEntreHilos::AceptarCancelar(std::string_view texto,
+                                                   base::Respuesta porDefecto) {
+    return EnLaVentana([&](base::Dialogo& d) { return d.AceptarCancelar(texto, porDefecto); });
 }
 
 std::optional<std::string> DialogoEntreHilos::PedirTexto(std::string_view texto,

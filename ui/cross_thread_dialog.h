@@ -18,7 +18,7 @@ class DialogoEntreHilos final : public base::Dialogo {
     base::Respuesta PreguntaSiNo(std::string_view texto, base::Respuesta porDefecto) override;
     base::Respuesta PreguntaSiNoCancelar(std::string_view texto,
                                          base::Respuesta porDefecto) override;
-    base::Respuesta AceptarCancelar(std::string_view texto) override;
+    base::Respuesta AceptarCancelar(std::string_view texto, base::Respuesta porDefecto) override;
     std::optional<std::string> PedirTexto(std::string_view texto, std::string_view titulo,
                                           std::string_view inicial) override;
     std::optional<std::filesystem::path> ArchivoParaAbrir(

@@ -83,9 +83,9 @@ base::Respuesta DialogoQt::PreguntaSiNoCancelar(std::string_view texto,
                                          ABoton(porDefecto)));
 }
 
-base::Respuesta DialogoQt::AceptarCancelar(std::string_view texto) {
-    return DeBoton(QMessageBox::question(madre_, kTitulo, Q(texto),
-                                         QMessageBox::Ok | QMessageBox::Cancel, QMessageBox::Ok));
+base::Respuesta DialogoQt::AceptarCancelar(std::string_view texto, base::Respuesta porDefecto) {
+    return DeBoton(QMessageBox::question(
+        madre_, kTitulo, Q(texto), QMessageBox::Ok | QMessageBox::Cancel, ABoton(porDefecto)));
 }
 
 std::optional<std::string> DialogoQt::PedirTexto(std::string_view texto, std::string_view titulo,

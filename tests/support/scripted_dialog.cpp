@@ -33,15 +33,20 @@ void DialogoGuionado::Mensaje(std::string_view texto, base::Icono) {
     registro_.push_back({"Mensaje", std::string(texto)});
 }
 
-base::Respuesta DialogoGuionado::PreguntaSiNo(std::string_view texto, base::Respuesta) {
+base::Respuesta DialogoGuionado::PreguntaSiNo(std::string_view texto, base::Respuesta porDefecto) {
+    porDefecto_.push_back(porDefecto);
     return Siguiente<base::Respuesta>("PreguntaSiNo", texto);
 }
 
-base::Respuesta DialogoGuionado::PreguntaSiNoCancelar(std::string_view texto, base::Respuesta) {
+base::Respuesta DialogoGuionado::PreguntaSiNoCancelar(std::string_view texto,
+                                                      base::Respuesta porDefecto) {
+    porDefecto_.push_back(porDefecto);
     return Siguiente<base::Respuesta>("PreguntaSiNoCancelar", texto);
 }
 
-base::Respuesta DialogoGuionado::AceptarCancelar(std::string_view texto) {
+base::Respuesta DialogoGuionado::AceptarCancelar(std::string_view texto,
+                                                 base::Respuesta porDefecto) {
+    porDefecto_.push_back(porDefecto);
     return Siguiente<base::Respuesta>("AceptarCancelar", texto);
 }
 

@@ -34,12 +34,14 @@ class DialogoGuionado : public base::Dialogo {
     // Solo los textos, en orden.
     std::vector<std::string> Textos() const;
     bool GuionAgotado() const { return guion_.empty(); }
+    // El botón por defecto de cada pregunta de botones, en orden.
+    const std::vector<base::Respuesta>& PorDefecto() const { return porDefecto_; }
 
     void Mensaje(std::string_view texto, base::Icono icono) override;
     base::Respuesta PreguntaSiNo(std::string_view texto, base::Respuesta porDefecto) override;
     base::Respuesta PreguntaSiNoCancelar(std::string_view texto,
                                          base::Respuesta porDefecto) override;
-    base::Respuesta AceptarCancelar(std::string_view texto) override;
+    base::Respuesta AceptarCancelar(std::string_view texto, base::Respuesta porDefecto) override;
     std::optional<std::string> PedirTexto(std::string_view texto, std::string_view titulo,
                                           std::string_view inicial) override;
     std::optional<std::filesystem::path> ArchivoParaAbrir(
@@ -57,6 +59,7 @@ class DialogoGuionado : public base::Dialogo {
 
     std::deque<Respuesta> guion_;
     std::vector<Intercambio> registro_;
+    std::vector<base::Respuesta> porDefecto_;
 };
 
 }  // namespace quinteva::pruebas
