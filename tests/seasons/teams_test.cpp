@@ -6,6 +6,7 @@
 
 #include "base/error.h"
 #include "base/record_files.h"
+#include "base/text1252.h"
 #include "seasons/record_files.h"
 #include "seasons/season_folder.h"
 #include "tests/support/memory_settings.h"
