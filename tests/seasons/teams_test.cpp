@@ -35,9 +35,11 @@ std::vector<RegEquipo> Equipos(const fs::path& carpeta) {
     return equipos;
 }
 
+// Un equipo como se lee de "Nomeq.rar": el nombre con sus blancos hasta 15.
 RegEquipo Equipo(std::string nombre, int division, int valoracion = 0) {
     RegEquipo e;
     e.temporada = "23/24";
+    nombre.resize(15, ' ');
     e.nombre = std::move(nombre);
     e.division = division;
     e.valoracion = valoracion;
@@ -217,7 +219,7 @@ TEST(VentanaEquipos, ModificarElNombrePreguntaYReescribeElRegistro) {
     EXPECT_EQ(v.Modo(), ModoEquipos::Modificar);
     t.dialogo.Responder(Respuesta::No).Responder(Respuesta::Si);
     EXPECT_FALSE(v.IntroEnNombre(0, "Girona FC", "5"));
-    EXPECT_EQ(Equipos(t.carpeta).at(0).nombre, "Girona         ");
+    EXPECT_EQ(Equipos(t.carpeta).at(0), Equipo("Girona", 1, 4));
     EXPECT_TRUE(v.IntroEnNombre(0, "Girona FC", "5"));
     EXPECT_EQ(t.dialogo.Textos(), (std::vector<std::string>{
                                       "Está seguro de que desea modificar el Equipo Girona FC?",
