@@ -20,11 +20,10 @@ base::Respuesta DialogoDeOrdenes::AceptarCancelar(std::string_view, base::Respue
 
 std::optional<std::string> DialogoDeOrdenes::PedirTexto(std::string_view texto, std::string_view,
                                                         std::string_view) {
-    if (preguntado_ || !texto_) {
-        throw base::Error("Respuesta no admitida a: " + std::string(texto));
-    }
-    preguntado_ = true;
-    return texto_;
+    if (textos_.empty()) throw base::Error("Respuesta no admitida a: " + std::string(texto));
+    std::string respuesta = std::move(textos_.front());
+    textos_.pop_front();
+    return respuesta;
 }
 
 std::optional<std::filesystem::path> DialogoDeOrdenes::ArchivoParaAbrir(

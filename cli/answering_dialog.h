@@ -1,9 +1,11 @@
 #pragma once
 
+#include <deque>
 #include <filesystem>
 #include <optional>
 #include <ostream>
 #include <string>
+#include <vector>
 
 #include "base/dialog.h"
 
@@ -11,13 +13,13 @@ namespace quinteva::cli {
 
 // El Dialogo de la línea de órdenes: las preguntas ya las contestó el usuario con sus opciones.
 // Cada mensaje sale por el flujo dado (stderr), las confirmaciones son Sí / Aceptar, la carpeta y
-// el archivo son los dados, y la caja de entrada contesta una vez el texto dado: si el sistema lo
-// rehúsa y vuelve a preguntar, es un Error.
+// el archivo son los dados, y las cajas de entrada contestan los textos dados, uno cada vez y en
+// su orden: una caja de más (el sistema rehúsa uno y vuelve a preguntar) es un Error.
 class DialogoDeOrdenes : public base::Dialogo {
   public:
-    DialogoDeOrdenes(std::ostream& mensajes, std::optional<std::string> texto = std::nullopt,
+    DialogoDeOrdenes(std::ostream& mensajes, std::vector<std::string> textos = {},
                      std::optional<std::filesystem::path> ruta = std::nullopt)
-        : mensajes_(mensajes), texto_(std::move(texto)), ruta_(std::move(ruta)) {}
+        : mensajes_(mensajes), textos_(textos.begin(), textos.end()), ruta_(std::move(ruta)) {}
 
     void Mensaje(std::string_view texto, base::Icono icono) override;
     base::Respuesta PreguntaSiNo(std::string_view texto, base::Respuesta porDefecto) override;
@@ -37,9 +39,8 @@ class DialogoDeOrdenes : public base::Dialogo {
 
   private:
     std::ostream& mensajes_;
-    std::optional<std::string> texto_;
+    std::deque<std::string> textos_;
     std::optional<std::filesystem::path> ruta_;
-    bool preguntado_ = false;
 };
 
 }  // namespace quinteva::cli

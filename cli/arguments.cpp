@@ -34,6 +34,15 @@ void Argumentos::ExigirPosicionales(std::size_t n, std::string_view uso) const {
     if (posicionales_.size() != n) throw ErrorDeUso{"Uso: quinteva-cli " + std::string(uso)};
 }
 
+std::string Argumentos::Exigir(std::string_view opcion, std::string_view uso) const {
+    const auto valor = Valor(opcion);
+    if (!valor) {
+        throw ErrorDeUso{"Falta --" + std::string(opcion) + "\nUso: quinteva-cli " +
+                         std::string(uso)};
+    }
+    return *valor;
+}
+
 std::filesystem::path Argumentos::CarpetaTrabajo() const {
     const auto carpeta = Valor("carpeta");
     return base::ResolverCarpetaTrabajo(carpeta ? std::optional<std::filesystem::path>(*carpeta)

@@ -23,6 +23,10 @@ std::span<const Subcomando> Subcomandos();
 // Cada subcomando vive en su archivo.
 int Temporada(const Argumentos& argumentos, std::ostream& salida);
 int Demo(const Argumentos& argumentos, std::ostream& salida);
+int EquiposCmd(const Argumentos& argumentos, std::ostream& salida);
+int EquipoNuevo(const Argumentos& argumentos, std::ostream& salida);
+int NuevaTemporadaCmd(const Argumentos& argumentos, std::ostream& salida);
+int TodoACeroCmd(const Argumentos& argumentos, std::ostream& salida);
 int Nueva(const Argumentos& argumentos, std::ostream& salida);
 int Info(const Argumentos& argumentos, std::ostream& salida);
 int GenerarCmd(const Argumentos& argumentos, std::ostream& salida);

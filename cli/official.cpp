@@ -18,14 +18,6 @@ namespace {
 constexpr std::string_view kUso =
     "oficial RUTA.uxd --receptor NNNNN --jornada N --salida DIR/NOMBRE [--anio AAAA]";
 
-std::string Exigir(const Argumentos& argumentos, std::string_view opcion) {
-    const auto valor = argumentos.Valor(opcion);
-    if (!valor)
-        throw ErrorDeUso{"Falta --" + std::string(opcion) + "\nUso: quinteva-cli " +
-                         std::string(kUso)};
-    return *valor;
-}
-
 // El año de la fecha de una Jornada de Quiniela en "Jquin.rar" de la temporada actual.
 std::optional<int> AnioDeJornada(const std::filesystem::path& carpetaTrabajo, int jornada) {
     const auto actual = seasons::TemporadaActual(carpetaTrabajo);
@@ -56,17 +48,17 @@ int Anio(const Argumentos& argumentos, int jornada) {
 
 int Oficial(const Argumentos& argumentos, std::ostream& salida) {
     argumentos.ExigirPosicionales(1, kUso);
-    const std::filesystem::path destino = Exigir(argumentos, "salida");
-    const std::string jornada = Exigir(argumentos, "jornada");
+    const std::filesystem::path destino = argumentos.Exigir("salida", kUso);
+    const std::string jornada = argumentos.Exigir("jornada", kUso);
     const outputs::JuegoJugado juego = outputs::LeerJuegoJugado(argumentos.Posicionales()[0]);
     const auto activas = outputs::LeerColumnas(juego.columnas, true);
 
     const outputs::PeticionPrincipal peticion{
-        Exigir(argumentos, "receptor"), destino.filename().string(),
+        argumentos.Exigir("receptor", kUso), destino.filename().string(),
         static_cast<std::int32_t>(activas.size()), juego.columnas, Anio(argumentos, juego.jornada)};
     const auto carpeta =
         destino.parent_path().empty() ? std::filesystem::path(".") : destino.parent_path();
-    DialogoDeOrdenes dialogo(std::cerr, jornada, carpeta);
+    DialogoDeOrdenes dialogo(std::cerr, {jornada}, carpeta);
     base::AjustesIni ajustes(argumentos.CarpetaTrabajo());
     const auto resultado = outputs::GenerarDesdePrincipal(peticion, dialogo, ajustes);
     if (!resultado.terminado) return 1;

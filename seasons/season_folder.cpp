@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "base/error.h"
 #include "base/record_files.h"
 #include "base/text1252.h"
 #include "seasons/record_files.h"
@@ -57,6 +58,15 @@ void FijarTemporadaActual(const std::filesystem::path& carpetaTrabajo,
 std::filesystem::path CarpetaTemporada(const std::filesystem::path& carpetaTrabajo,
                                        std::string_view temporadaActual) {
     return carpetaTrabajo / std::string(temporadaActual);
+}
+
+std::filesystem::path CarpetaTemporadaEnCurso(const std::filesystem::path& carpetaTrabajo) {
+    const auto actual = TemporadaActual(carpetaTrabajo);
+    if (!actual) {
+        throw base::Error("No hay temporada en curso: falta el archivo " + std::string(kTempor) +
+                          " en " + carpetaTrabajo.string());
+    }
+    return CarpetaTemporada(carpetaTrabajo, *actual);
 }
 
 std::filesystem::path RutaArchivo(const ArchivoTemporada& archivo,

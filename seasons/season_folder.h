@@ -49,6 +49,9 @@ void FijarTemporadaActual(const std::filesystem::path& carpetaTrabajo,
 std::filesystem::path CarpetaTemporada(const std::filesystem::path& carpetaTrabajo,
                                        std::string_view temporadaActual);
 
+// La carpeta de la temporada que nombra "Tempor.rar"; sin él, Error "No hay temporada en curso".
+std::filesystem::path CarpetaTemporadaEnCurso(const std::filesystem::path& carpetaTrabajo);
+
 // La ruta de un archivo de la temporada, en su carpeta.
 std::filesystem::path RutaArchivo(const ArchivoTemporada& archivo,
                                   const std::filesystem::path& carpetaTrabajo,

@@ -90,14 +90,9 @@ JornadaQuiniela LeerJornadaQuiniela(const std::filesystem::path& carpetaTemporad
 TemporadaPreparada PrepararTemporada(const std::filesystem::path& carpetaPrograma,
                                      const std::filesystem::path& carpetaTrabajo,
                                      base::Ajustes& ajustes) {
-    const auto actual = TemporadaActual(carpetaTrabajo);
-    if (!actual) {
-        throw base::Error("No hay temporada en curso: falta el archivo " + std::string(kTempor) +
-                          " en " + carpetaTrabajo.string());
-    }
     TemporadaPreparada t;
-    t.temporadaActual = *actual;
-    t.carpetaTemporada = CarpetaTemporada(carpetaTrabajo, *actual);
+    t.carpetaTemporada = CarpetaTemporadaEnCurso(carpetaTrabajo);
+    t.temporadaActual = t.carpetaTemporada.filename().string();
     std::error_code error;
     std::filesystem::create_directories(t.carpetaTemporada, error);
     if (error) throw base::Error("No se pudo crear la carpeta " + t.carpetaTemporada.string());
