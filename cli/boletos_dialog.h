@@ -17,7 +17,7 @@ class DialogoDeBoletos final : public DialogoDeOrdenes {
   public:
     explicit DialogoDeBoletos(std::ostream& mensajes,
                               std::optional<std::filesystem::path> ruta = std::nullopt)
-        : DialogoDeOrdenes(mensajes, std::nullopt, std::move(ruta)), mensajes_(mensajes) {}
+        : DialogoDeOrdenes(mensajes, {}, std::move(ruta)), mensajes_(mensajes) {}
 
     base::Respuesta PreguntaSiNo(std::string_view texto, base::Respuesta porDefecto) override;
     base::Respuesta PreguntaSiNoCancelar(std::string_view texto,
