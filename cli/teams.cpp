@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <array>
 #include <iomanip>
 #include <iostream>
@@ -84,12 +85,21 @@ void EquipoJson(const seasons::RegEquipo& e, std::ostream& salida) {
     salida << "]}";
 }
 
+// El nombre con blancos hasta 16 caracteres (no bytes: "Leganés" tiene 7).
+std::string Columna(std::string_view nombre) {
+    std::string texto(nombre);
+    const auto caracteres =
+        std::count_if(texto.begin(), texto.end(), [](char c) { return (c & 0xC0) != 0x80; });
+    texto.append(static_cast<std::size_t>(std::max<std::ptrdiff_t>(0, 16 - caracteres)), ' ');
+    return texto;
+}
+
 void EquipoTexto(const seasons::RegEquipo& e, std::ostream& salida) {
-    salida << std::left << std::setw(16) << base::Recortar(e.nombre) << std::right << std::setw(4)
-           << e.division << std::setw(5) << e.valoracion << std::setw(5) << e.posicion
-           << std::setw(5) << e.jugados << std::setw(5) << e.puntos << std::setw(5) << e.ganados
-           << std::setw(5) << e.empatados << std::setw(5) << e.perdidos << std::setw(5)
-           << e.golesFavor << std::setw(5) << e.golesContra << '\n';
+    salida << Columna(base::Recortar(e.nombre)) << std::setw(4) << e.division << std::setw(5)
+           << e.valoracion << std::setw(5) << e.posicion << std::setw(5) << e.jugados
+           << std::setw(5) << e.puntos << std::setw(5) << e.ganados << std::setw(5) << e.empatados
+           << std::setw(5) << e.perdidos << std::setw(5) << e.golesFavor << std::setw(5)
+           << e.golesContra << '\n';
 }
 
 }  // namespace
