@@ -54,7 +54,8 @@ TEST(CliEquipos, ConJornadasDeLigaNoSeAnade) {
 
 TEST(CliEquipos, UnaTemporadaNuevaYSusEquipos) {
     Trabajo t;
-    const Salida nueva = t.Cli("nueva-temporada 24/25 --equipos1 20 --equipos2 22");
+    // La 2ª de la demostración tiene 22 equipos: queda sitio para uno.
+    const Salida nueva = t.Cli("nueva-temporada 24/25 --equipos1 20 --equipos2 23");
     EXPECT_EQ(nueva.codigo, 0) << nueva.errores;
     EXPECT_EQ(nueva.salida, "Temporada 24/25\n");
     EXPECT_EQ(t.Temporada().filename(), "Temporada2425");
@@ -75,6 +76,12 @@ TEST(CliEquipos, UnaTemporadaNuevaYSusEquipos) {
     EXPECT_EQ(desborda.codigo, 1);
     EXPECT_EQ(desborda.errores, "Error: Desbordamiento\n");
     EXPECT_EQ(Leer(t.Temporada() / seasons::kNomeq), antes);
+    const Salida bien = t.Cli("equipo-nuevo --division 2 --nombre Nuevo --valoracion 7");
+    EXPECT_EQ(bien.codigo, 0) << bien.errores;
+    EXPECT_NE(t.Cli("equipos --division 2 --json")
+                  .salida.find("\"Temporada\": \"24/25\", \"Nombre\": \"Nuevo\", \"Division\": 2, "
+                               "\"Valoracion\": 7"),
+              std::string::npos);
 }
 
 TEST(CliEquipos, NuevaTemporadaConMasDe23Equipos) {
