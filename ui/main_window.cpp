@@ -36,6 +36,7 @@
 #include "ui/options_window.h"
 #include "ui/report_windows.h"
 #include "ui/status_panel.h"
+#include "ui/teams_window.h"
 #include "ui/work_pages.h"
 
 namespace quinteva::ui {
@@ -216,7 +217,8 @@ void VentanaPrincipal::CrearMenus() {
     archivo->addSeparator();
     Accion(archivo, QStringLiteral("&Seleccionar Impresora"), QStringLiteral("AccionImpresora"),
            false);
-    Accion(archivo, QStringLiteral("&Equipos"), QStringLiteral("AccionEquipos"), false);
+    connect(Accion(archivo, QStringLiteral("&Equipos"), QStringLiteral("AccionEquipos")),
+            &QAction::triggered, this, &VentanaPrincipal::Equipos);
     Accion(archivo, QStringLiteral("Jornadas &Liga"), QStringLiteral("AccionJornadasLiga"), false);
     Accion(archivo, QStringLiteral("Jornadas &Quiniela"), QStringLiteral("AccionJornadasQuiniela"),
            false);
@@ -560,6 +562,13 @@ void VentanaPrincipal::CopiarCondiciones() {
 }
 
 void VentanaPrincipal::Opciones() { AbrirVentana(new VentanaOpciones(s_.ajustes, this)); }
+
+void VentanaPrincipal::Equipos() {
+    auto* ventana = new VentanaEquiposQt(s_.carpetaTrabajo, temporada_.carpetaTemporada, s_.ajustes,
+                                         s_.dialogo, this);
+    connect(ventana, &VentanaEquiposQt::temporadaNueva, temporadaEtiqueta_, &QLabel::setText);
+    AbrirVentana(ventana);
+}
 
 void VentanaPrincipal::AcercaDe() {
     s_.dialogo.Mensaje("Quinteva " QUINTEVA_VERSION

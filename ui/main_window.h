@@ -84,6 +84,8 @@ class VentanaPrincipal : public QMainWindow {
     bool GuardarComo();
     void CopiarCondiciones();
     void Opciones();
+    // "&Equipos": la ventana de los equipos y las temporadas.
+    void Equipos();
     void AcercaDe();
 
     // La página Boletos: el conjunto que se juega, el ajuste y los mandatos de salida.
