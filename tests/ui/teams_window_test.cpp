@@ -21,9 +21,8 @@ namespace {
 
 ui::VentanaEquiposQt* AbrirEquipos(ui::VentanaPrincipal& v) {
     Hijo<QAction>(v, QStringLiteral("AccionEquipos"))->trigger();
-    ui::VentanaEquiposQt* ventana = nullptr;
-    QTRY_VERIFY((ventana = v.findChild<ui::VentanaEquiposQt*>()) != nullptr &&
-                ventana->isVisible());
+    auto* ventana = v.findChild<ui::VentanaEquiposQt*>();
+    if (ventana == nullptr || !QTest::qWaitForWindowExposed(ventana)) qFatal("No se abre Equipos");
     return ventana;
 }
 
