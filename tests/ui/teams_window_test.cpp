@@ -36,8 +36,8 @@ QStringList Lista(QObject& ventana, int division) {
 void Teclear(QObject& ventana, const QString& campo, const QString& texto) {
     auto* c = Hijo<QLineEdit>(ventana, campo);
     c->setFocus();
-    c->clear();
-    QTest::keyClicks(c, texto);
+    // Con tildes: QTest no teclea más que ASCII.
+    c->setText(texto);
     QTest::keyClick(c, Qt::Key_Return);
 }
 
