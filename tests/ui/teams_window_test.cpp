@@ -3,6 +3,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
+#include <QPointer>
 #include <QRadioButton>
 #include <QtTest>
 
@@ -50,7 +51,9 @@ void Menu(QObject& ventana, int division, int fila, const QString& accion) {
     for (QAction* a : menu->actions()) {
         if (a->text() == accion) a->trigger();
     }
+    const QPointer<QMenu> cerrado(menu);
     menu->close();
+    QTRY_VERIFY(cerrado.isNull());
 }
 
 }  // namespace
