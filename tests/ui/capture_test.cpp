@@ -23,6 +23,7 @@
 #include "ui/remove_columns_window.h"
 #include "ui/report_windows.h"
 #include "ui/spanish_texts.h"
+#include "ui/teams_window.h"
 #include "ui/text_type_window.h"
 
 using namespace quinteva;
@@ -118,6 +119,18 @@ class PruebaCapturas : public QObject {
         Capturar(*v, nombre + QStringLiteral("_panel"));
         pruebas::Pagina(*v, ui::kCondicion);
         Capturar(*v, nombre + QStringLiteral("_condiciones"));
+    }
+
+    // "Equipos" sobre la temporada de demostración, con las valoraciones a la vista.
+    void VentanaEquipos() {
+        pruebas::Instalacion inst;
+        auto v = inst.Ventana();
+        Hijo<QAction>(*v, "AccionEquipos")->trigger();
+        auto* equipos = v->findChild<ui::VentanaEquiposQt*>();
+        QVERIFY(equipos != nullptr);
+        auto* nombre = Hijo<QLineEdit>(*equipos, "CampoNombre1");
+        QTest::keyClick(nombre, Qt::Key_V, Qt::ShiftModifier);
+        Capturar(*equipos, QStringLiteral("ventana_equipos"));
     }
 
     // Cada ventana que se abre desde la página Boletos y los menús, sobre la Combinación dada.
