@@ -108,7 +108,9 @@ QWidget* VentanaEquiposQt::CrearDivision(int division, const QString& titulo) {
     c.valoracion = Campo(grupo, QStringLiteral("CampoValoracion") + sufijo, 3);
     c.valoracion->setValidator(new QRegularExpressionValidator(
         QRegularExpression(QStringLiteral("[0-9]*")), c.valoracion));
-    c.valoracion->setPlaceholderText(QStringLiteral("Valoración"));
+    c.valoracion->setToolTip(QStringLiteral("Valoración"));
+    c.valoracion->setFixedWidth(
+        c.valoracion->fontMetrics().horizontalAdvance(QStringLiteral("0000")) + 16);
     c.valoracion->setVisible(false);
     c.valoracion->installEventFilter(this);
     rejilla->addWidget(new QLabel(QStringLiteral("Nº de Equipos"), grupo), 0, 0);
@@ -116,7 +118,7 @@ QWidget* VentanaEquiposQt::CrearDivision(int division, const QString& titulo) {
     rejilla->addWidget(c.lista, 1, 0, 1, 3);
     rejilla->addWidget(c.nombre, 2, 0, 1, 2);
     rejilla->addWidget(c.valoracion, 2, 2);
-    rejilla->setColumnStretch(2, 1);
+    rejilla->setColumnStretch(1, 1);
     connect(c.lista, &QListWidget::customContextMenuRequested, this,
             [this, division](const QPoint& donde) { MenuDeLista(division, donde); });
     connect(c.numero, &QLineEdit::textEdited, this, [this, division](const QString& texto) {
