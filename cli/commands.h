@@ -27,6 +27,8 @@ int EquiposCmd(const Argumentos& argumentos, std::ostream& salida);
 int EquipoNuevo(const Argumentos& argumentos, std::ostream& salida);
 int NuevaTemporadaCmd(const Argumentos& argumentos, std::ostream& salida);
 int TodoACeroCmd(const Argumentos& argumentos, std::ostream& salida);
+int ClasificacionCmd(const Argumentos& argumentos, std::ostream& salida);
+int RecalcularCmd(const Argumentos& argumentos, std::ostream& salida);
 int Nueva(const Argumentos& argumentos, std::ostream& salida);
 int Info(const Argumentos& argumentos, std::ostream& salida);
 int GenerarCmd(const Argumentos& argumentos, std::ostream& salida);
