@@ -33,6 +33,7 @@
 #include "ui/boletos_notice.h"
 #include "ui/conditions_page.h"
 #include "ui/info_panel.h"
+#include "ui/league_table_window.h"
 #include "ui/options_window.h"
 #include "ui/report_windows.h"
 #include "ui/status_panel.h"
@@ -256,7 +257,9 @@ void VentanaPrincipal::CrearMenus() {
            QStringLiteral("AccionResultadosQuiniela"), false);
     Accion(resultados, QStringLiteral("Actualización por Internet"),
            QStringLiteral("AccionActualizacionInternet"), false);
-    Accion(ver, QStringLiteral("&Clasificaciones"), QStringLiteral("AccionClasificaciones"), false);
+    connect(
+        Accion(ver, QStringLiteral("&Clasificaciones"), QStringLiteral("AccionClasificaciones")),
+        &QAction::triggered, this, &VentanaPrincipal::Clasificaciones);
     comprobarAciertos_ =
         Accion(ver, QStringLiteral("Comprobación de &Aciertos"), QStringLiteral("AccionAciertos"));
     connect(comprobarAciertos_, &QAction::triggered, this, &VentanaPrincipal::ComprobarAciertos);
@@ -562,6 +565,11 @@ void VentanaPrincipal::CopiarCondiciones() {
 }
 
 void VentanaPrincipal::Opciones() { AbrirVentana(new VentanaOpciones(s_.ajustes, this)); }
+
+void VentanaPrincipal::Clasificaciones() {
+    AbrirVentana(
+        new VentanaClasificacion(temporada_.carpetaTemporada, s_.ajustes, s_.dialogo, this));
+}
 
 void VentanaPrincipal::Equipos() {
     auto* ventana = new VentanaEquiposQt(s_.carpetaTrabajo, temporada_.carpetaTemporada, s_.ajustes,

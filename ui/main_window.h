@@ -86,6 +86,8 @@ class VentanaPrincipal : public QMainWindow {
     void Opciones();
     // "&Equipos": la ventana de los equipos y las temporadas.
     void Equipos();
+    // "&Clasificaciones": la tabla de cada división.
+    void Clasificaciones();
     void AcercaDe();
 
     // La página Boletos: el conjunto que se juega, el ajuste y los mandatos de salida.
