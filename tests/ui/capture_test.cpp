@@ -17,6 +17,7 @@
 #include "ui/boletos_notice.h"
 #include "ui/failure_report_window.h"
 #include "ui/json_file_window.h"
+#include "ui/league_table_window.h"
 #include "ui/located_columns_window.h"
 #include "ui/official_file_window.h"
 #include "ui/options_window.h"
@@ -131,6 +132,15 @@ class PruebaCapturas : public QObject {
         auto* nombre = Hijo<QLineEdit>(*equipos, "CampoNombre1");
         QTest::keyClick(nombre, Qt::Key_V, Qt::ShiftModifier);
         Capturar(*equipos, QStringLiteral("ventana_equipos"));
+    }
+
+    void VentanaClasificacion() {
+        pruebas::Instalacion inst;
+        auto v = inst.Ventana();
+        Hijo<QAction>(*v, "AccionClasificaciones")->trigger();
+        auto* ventana = v->findChild<ui::VentanaClasificacion*>();
+        QVERIFY(ventana != nullptr);
+        Capturar(*ventana, QStringLiteral("ventana_clasificacion"));
     }
 
     // Cada ventana que se abre desde la página Boletos y los menús, sobre la Combinación dada.
