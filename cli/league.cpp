@@ -69,10 +69,12 @@ int RecalcularCmd(const Argumentos& argumentos, std::ostream&) {
     argumentos.ExigirPosicionales(0, kUsoRecalcular);
     const int division = Division(argumentos, kUsoRecalcular);
     const auto carpetaTrabajo = argumentos.CarpetaTrabajo();
-    const base::AjustesIni ajustes(carpetaTrabajo);
+    base::AjustesIni ajustes(carpetaTrabajo);
     DialogoDeOrdenes dialogo(std::cerr);
-    seasons::Recalcular(seasons::CarpetaTemporadaEnCurso(carpetaTrabajo), division, ajustes,
-                        dialogo);
+    const auto carpeta = seasons::CarpetaTemporadaEnCurso(carpetaTrabajo);
+    // "MaxJor1ª" y "MaxJor2ª" como los deja el arranque del programa, que habría precedido.
+    seasons::MaxJornada(carpeta, ajustes);
+    seasons::Recalcular(carpeta, division, ajustes, dialogo);
     return 0;
 }
 
