@@ -32,7 +32,9 @@ TEST(CliClasificacion, LaTablaYRecalcular) {
     base::ArchivoDe<seasons::RegEquipo> equipos(temporada / seasons::kNomeq);
     for (std::int32_t n = 1; n <= equipos.Cuenta(); ++n) {
         const auto e = equipos.Leer(n);
-        if (e.division == 1) EXPECT_EQ(e.jugados, 20) << e.nombre;
+        if (e.division == 1) {
+            EXPECT_EQ(e.jugados, 20) << e.nombre;
+        }
     }
     EXPECT_EQ(EjecutarCli("clasificacion --division 3" + carpeta).codigo, 2);
 }
