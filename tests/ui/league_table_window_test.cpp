@@ -4,6 +4,7 @@
 #include <QtTest>
 
 #include "seasons/league_table.h"
+#include "seasons/season_folder.h"
 #include "tests/ui/window_fixture.h"
 #include "ui/league_table_window.h"
 
