@@ -192,8 +192,8 @@ TEST(Clasifica, ElEnfrentamientoDirectoVaAntesQueLaDiferencia) {
                                   {1, "C", "D", 0, 0},
                                   {2, "A", "C", 5, 0},
                                   {2, "B", "D", 0, 1},
-                                  {3, "A", "D", 0, 0},
-                                  {3, "B", "C", 0, 0}});
+                                  {3, "A", "D", 1, 1},
+                                  {3, "B", "C", 1, 1}});
     Clasificacion c(l.carpeta.Ruta(), 1);
     for (int j = 1; j <= 3; ++j) EXPECT_TRUE(c.Clasifica(j));
     EXPECT_EQ(l.Equipo("A").puntos, l.Equipo("B").puntos);
