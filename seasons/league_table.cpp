@@ -15,15 +15,24 @@ namespace fs = std::filesystem;
 
 namespace {
 
+// Todos los registros de un archivo, de una lectura (si falta, se crea vacío, como al abrirlo).
+template <typename Registro>
+std::vector<Registro> Registros(const fs::path& ruta) {
+    if (!fs::exists(ruta)) base::ArchivoDe<Registro>{ruta}.Cerrar();
+    base::LectorRegistros lector(ruta, Registro::kLongitud);
+    std::vector<Registro> registros;
+    registros.reserve(static_cast<std::size_t>(lector.Cuenta()));
+    for (auto bytes = lector.Siguiente(); !bytes.empty(); bytes = lector.Siguiente()) {
+        registros.push_back(Registro::DeBytes(bytes));
+    }
+    return registros;
+}
+
 std::vector<RegPartidoLiga> Partidos(const fs::path& carpetaTemporada) {
-    base::ArchivoDe<RegPartidoLiga> archivo(carpetaTemporada / kJlig2);
-    std::vector<RegPartidoLiga> partidos;
-    partidos.reserve(static_cast<std::size_t>(archivo.Cuenta()));
-    for (std::int32_t n = 1; n <= archivo.Cuenta(); ++n) {
-        RegPartidoLiga p = archivo.Leer(n);
+    auto partidos = Registros<RegPartidoLiga>(carpetaTemporada / kJlig2);
+    for (auto& p : partidos) {
         p.local = base::Recortar(p.local);
         p.visitante = base::Recortar(p.visitante);
-        partidos.push_back(std::move(p));
     }
     return partidos;
 }
@@ -82,15 +91,15 @@ bool Clasificacion::Clasifica(int jornada) {
     });
     if (!jugada) return false;
 
-    base::ArchivoDe<RegEquipo> equipos(carpetaTemporada_ / kNomeq);
-    std::size_t filas = 0;
-    for (std::int32_t n = 1; n <= equipos.Cuenta(); ++n) {
-        if (equipos.Leer(n).division == division_) ++filas;
-    }
-    tabla_.resize(filas);
+    // "Nomeq.rar" se lee una vez; cada registro cambiado se escribe en el acto, así que un
+    // Desbordamiento deja escritos los anteriores.
+    std::vector<RegEquipo> equipos = Registros<RegEquipo>(carpetaTemporada_ / kNomeq);
+    base::ArchivoDe<RegEquipo> nomeq(carpetaTemporada_ / kNomeq);
+    tabla_.resize(static_cast<std::size_t>(std::count_if(
+        equipos.begin(), equipos.end(), [&](const auto& e) { return e.division == division_; })));
     std::size_t r = 0;
-    for (std::int32_t n = 1; n <= equipos.Cuenta(); ++n) {
-        RegEquipo e = equipos.Leer(n);
+    for (std::size_t n = 0; n < equipos.size(); ++n) {
+        RegEquipo& e = equipos[n];
         if (e.division != division_) continue;
         const std::string nombre(base::Recortar(e.nombre));
         const auto partido = std::find_if(partidos.begin(), partidos.end(), [&](const auto& p) {
@@ -100,7 +109,7 @@ bool Clasificacion::Clasifica(int jornada) {
         const bool enCasa = partido->local == nombre;
         Sumar(e, enCasa ? partido->golesLocal : partido->golesVisitante,
               enCasa ? partido->golesVisitante : partido->golesLocal, enCasa);
-        equipos.Escribir(n, e);
+        nomeq.Escribir(static_cast<std::int32_t>(n + 1), e);
         Fila& fila = tabla_[r++];
         fila.nombre = nombre;
         fila.puntos = std::to_string(e.puntos);
@@ -108,6 +117,7 @@ bool Clasificacion::Clasifica(int jornada) {
     }
 
     Ordenar<1>(tabla_, {&Fila::puntos});
+    const Enfrentamientos enfrentamientos(tabla_, partidos);
     // El recorrido de los empates tal como es: pasado el primero, cada paso de b llama a
     // SubClasifica sobre dos filas o más, y un empate que llega a la última fila no se ve.
     const std::size_t ultima = tabla_.size();
@@ -115,46 +125,61 @@ bool Clasificacion::Clasifica(int jornada) {
         for (std::size_t b = a; b <= ultima; ++b) {
             if (tabla_[a - 1].puntos == tabla_[b - 1].puntos) continue;
             if (b - a <= 1) break;
-            SubClasifica(a, b - 1);
+            SubClasifica(a, b - 1, enfrentamientos);
             a = b - 1;
         }
     }
     Ordenar<3>(tabla_, {&Fila::puntos, &Fila::enfrentamiento, &Fila::diferencia});
 
     for (std::size_t fila = 1; fila <= tabla_.size(); ++fila) {
-        for (std::int32_t n = 1; n <= equipos.Cuenta(); ++n) {
-            RegEquipo e = equipos.Leer(n);
-            if (base::Recortar(e.nombre) != tabla_[fila - 1].nombre) continue;
-            if (jornada < 1 || jornada > static_cast<int>(RegEquipo::kJornadas)) {
-                throw base::Error("Subíndice fuera del intervalo");
-            }
-            e.posicion = static_cast<int>(fila);
-            e.posicionJornada[static_cast<std::size_t>(jornada - 1)] = static_cast<int>(fila);
-            equipos.Escribir(n, e);
-            break;
+        const auto e = std::find_if(equipos.begin(), equipos.end(), [&](const auto& x) {
+            return base::Recortar(x.nombre) == tabla_[fila - 1].nombre;
+        });
+        if (e == equipos.end()) continue;
+        if (jornada < 1 || jornada > static_cast<int>(RegEquipo::kJornadas)) {
+            throw base::Error("Subíndice fuera del intervalo");
         }
+        e->posicion = static_cast<int>(fila);
+        e->posicionJornada[static_cast<std::size_t>(jornada - 1)] = static_cast<int>(fila);
+        nomeq.Escribir(static_cast<std::int32_t>(e - equipos.begin() + 1), *e);
     }
-    equipos.Cerrar();
+    nomeq.Cerrar();
     return true;
 }
 
-void Clasificacion::SubClasifica(std::size_t primero, std::size_t ultimo) {
-    const std::vector<RegPartidoLiga> partidos = Partidos(carpetaTemporada_);
+Clasificacion::Enfrentamientos::Enfrentamientos(const std::vector<Fila>& tabla,
+                                                const std::vector<RegPartidoLiga>& partidos) {
+    for (const Fila& fila : tabla) indices_.try_emplace(fila.nombre, indices_.size());
+    diferencia_.assign(indices_.size() * indices_.size(), 0);
+    for (const auto& p : partidos) {
+        const auto local = indices_.find(p.local);
+        const auto visitante = indices_.find(p.visitante);
+        if (local == indices_.end() || visitante == indices_.end()) continue;
+        diferencia_[local->second * indices_.size() + visitante->second] +=
+            p.golesLocal - p.golesVisitante;
+    }
+}
+
+int Clasificacion::Enfrentamientos::Diferencia(const std::string& local,
+                                               const std::string& visitante) const {
+    return diferencia_[indices_.at(local) * indices_.size() + indices_.at(visitante)];
+}
+
+// Lo que x sacó de sus partidos con cada y de las filas, en casa y fuera, en todo "Jlig2.rar"
+// (sin mirar la Jornada: los partidos sin jugar suman 0).
+void Clasificacion::SubClasifica(std::size_t primero, std::size_t ultimo,
+                                 const Enfrentamientos& enfrentamientos) {
+    std::vector<int> cifras;
     for (std::size_t x = primero; x <= ultimo; ++x) {
-        const std::string& nombre = tabla_[x - 1].nombre;
         int cifra = 0;
         for (std::size_t y = primero; y <= ultimo; ++y) {
-            const std::string& rival = tabla_[y - 1].nombre;
-            for (const auto& p : partidos) {
-                if (p.local == nombre && p.visitante == rival) {
-                    cifra += p.golesLocal - p.golesVisitante;
-                }
-                if (p.local == rival && p.visitante == nombre) {
-                    cifra += p.golesVisitante - p.golesLocal;
-                }
-            }
+            cifra += enfrentamientos.Diferencia(tabla_[x - 1].nombre, tabla_[y - 1].nombre) -
+                     enfrentamientos.Diferencia(tabla_[y - 1].nombre, tabla_[x - 1].nombre);
         }
-        tabla_[x - 1].enfrentamiento = std::to_string(cifra);
+        cifras.push_back(cifra);
+    }
+    for (std::size_t x = primero; x <= ultimo; ++x) {
+        tabla_[x - 1].enfrentamiento = std::to_string(cifras[x - primero]);
     }
 }
 

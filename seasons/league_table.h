@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <map>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -9,6 +10,7 @@
 
 #include "base/dialog.h"
 #include "base/settings.h"
+#include "seasons/record_files.h"
 
 namespace quinteva::seasons {
 
@@ -47,7 +49,22 @@ class Clasificacion {
     const std::vector<Fila>& Tabla() const { return tabla_; }
 
   private:
-    void SubClasifica(std::size_t primero, std::size_t ultimo);
+    // La diferencia de goles de cada partido entre dos nombres de la tabla (el primero en casa),
+    // sumada sobre todo "Jlig2.rar": lo que SubClasifica sacaría recorriendo el archivo por cada
+    // par, de una sola pasada.
+    class Enfrentamientos {
+      public:
+        Enfrentamientos(const std::vector<Fila>& tabla,
+                        const std::vector<RegPartidoLiga>& partidos);
+        int Diferencia(const std::string& local, const std::string& visitante) const;
+
+      private:
+        std::map<std::string, std::size_t, std::less<>> indices_;
+        std::vector<int> diferencia_;
+    };
+
+    void SubClasifica(std::size_t primero, std::size_t ultimo,
+                      const Enfrentamientos& enfrentamientos);
 
     std::filesystem::path carpetaTemporada_;
     int division_;
