@@ -151,11 +151,11 @@ bool VentanaEquiposQt::eventFilter(QObject* objeto, QEvent* evento) {
                 objeto == c.nombre ? IntroEnNombre(d) : IntroEnValoracion(d);
                 return true;
             }
-            // Mayúsculas+V en un nombre trae a la vista las valoraciones.
+            // Mayúsculas+V en un nombre trae a la vista las valoraciones; la "V" se escribe igual
+            // ("Valencia").
             if (objeto == c.nombre && tecla->key() == Qt::Key_V &&
                 tecla->modifiers() == Qt::ShiftModifier) {
                 for (const Columna& otra : columnas_) otra.valoracion->setVisible(true);
-                return true;
             }
         }
     }

@@ -135,6 +135,7 @@ class PruebaVentanaEquipos : public QObject {
         nombre->setFocus();
         QTest::keyClick(nombre, Qt::Key_V, Qt::ShiftModifier);
         QVERIFY(valoracion->isVisible());
+        QCOMPARE(nombre->text(), QStringLiteral("V"));
     }
 };
 
