@@ -99,7 +99,7 @@ class PruebaVentanaEquipos : public QObject {
         // Con los nombres abiertos, Mayúsculas+V escribe su "V".
         auto* nombre2 = Hijo<QLineEdit>(*equipos, QStringLiteral("CampoNombre2"));
         nombre2->setFocus();
-        QTest::keyClick(nombre2, Qt::Key_V, Qt::ShiftModifier);
+        QTest::keyClick(nombre2, 'V', Qt::ShiftModifier);
         QCOMPARE(nombre2->text(), QStringLiteral("V"));
 
         // Un equipo nuevo en la 2ª: queda en la lista, en su orden, y en "Nomeq.rar".
