@@ -103,6 +103,8 @@ TEST(JornadasLiga, UnaJornadaNuevaEscribeSusPartidos) {
     c.Poner({"Cádiz", "Celta"}, "27/01/24");
     EXPECT_TRUE(c.ventana.Guardar());
     const auto registro = [](char partido, std::string local, std::string visitante) {
+        local = base::AWindows1252(local);
+        visitante = base::AWindows1252(visitante);
         local.resize(15, ' ');
         visitante.resize(15, ' ');
         // 27/01/2024 son 45318 días desde el 30/12/1899.
