@@ -108,12 +108,8 @@ TEST(JornadasLiga, UnaJornadaNuevaEscribeSusPartidos) {
         local.resize(15, ' ');
         visitante.resize(15, ' ');
         // 27/01/2024 son 45318 días desde el 30/12/1899.
-        return std::string(
-                   "\x01"
-                   "20") +
-               std::string("\0\0\0\0\xC0\x20\xE6\x40", 8) + "23/24" + '\x01' + partido +
-               base::AWindows1252(local) + base::AWindows1252(visitante) + std::string(2, '\0') +
-               " ";
+        return std::string{'\x01', '2', '0'} + std::string("\0\0\0\0\xC0\x20\xE6\x40", 8) +
+               "23/24" + '\x01' + partido + local + visitante + std::string(2, '\0') + " ";
     };
     EXPECT_EQ(Leer(c.carpeta / kJlig2),
               registro(1, "Girona", "Betis") + registro(2, "Cádiz", "Celta"));
