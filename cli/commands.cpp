@@ -51,6 +51,12 @@ std::span<const Subcomando> Subcomandos() {
          "\"Recalcular\": la clasificación de la división rehecha desde la Jornada 1.",
          {{"division"}, {}},
          &RecalcularCmd},
+        {"liga-jornada",
+         "liga-jornada --division 1|2 --jornada N --fecha dd/mm/aa --equipos \"L1,V1,L2,V2,...\"",
+         "\"Guardar\" de \"Jornadas de Liga\": una Jornada nueva, cambiada o solo su fecha, según "
+         "lo que cambie.",
+         {{"division", "jornada", "fecha", "equipos"}, {}},
+         &LigaJornada},
         {"nueva",
          "nueva RUTA.uxd --base \"1X2 1 X 12 ...\" --pleno H-A [--jornada N] [--carpeta DIR]",
          "Una Combinación nueva con esa Quiniela Base y las condiciones por defecto, guardada.",

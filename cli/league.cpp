@@ -1,10 +1,15 @@
+#include <algorithm>
+#include <cstdlib>
 #include <iostream>
 #include <sstream>
 
+#include "base/error.h"
 #include "base/settings_ini.h"
+#include "base/text1252.h"
 #include "cli/answering_dialog.h"
 #include "cli/commands.h"
 #include "cli/json_output.h"
+#include "seasons/league.h"
 #include "seasons/league_table.h"
 #include "seasons/season_folder.h"
 
@@ -13,6 +18,8 @@ namespace {
 
 constexpr std::string_view kUsoClasificacion = "clasificacion --division 1|2 [--json]";
 constexpr std::string_view kUsoRecalcular = "recalcular --division 1|2";
+constexpr std::string_view kUsoLigaJornada =
+    "liga-jornada --division 1|2 --jornada N --fecha dd/mm/aa --equipos \"L1,V1,L2,V2,...\"";
 
 int Division(const Argumentos& argumentos, std::string_view uso) {
     const std::string division = argumentos.Exigir("division", uso);
@@ -30,7 +37,69 @@ void PuestoJson(const seasons::PuestoClasificacion& p, std::ostream& salida) {
            << ", \"GolesContra\": " << p.golesContra << ", \"Diferencia\": " << p.diferencia << '}';
 }
 
+std::vector<std::string> Separar(const std::string& lista) {
+    std::vector<std::string> partes;
+    std::istringstream texto(lista);
+    for (std::string parte; std::getline(texto, parte, ',');) {
+        partes.emplace_back(base::Recortar(parte));
+    }
+    return partes;
+}
+
+// Lo que el usuario haría en la rejilla: si los equipos son otros, la vacía y los agrega de la
+// lista uno a uno (HayCambios); si no, nada.
+bool PonerEquipos(seasons::VentanaJornadasLiga& v, const std::vector<std::string>& equipos) {
+    std::vector<std::string> actuales;
+    for (const auto& fila : v.Rejilla()) actuales.insert(actuales.end(), fila.begin(), fila.end());
+    if (equipos == actuales) return true;
+    if (equipos.size() > actuales.size()) {
+        throw base::Error("La Jornada tiene " + std::to_string(v.Rejilla().size()) +
+                          " partidos: sobran equipos");
+    }
+    for (int f = 0; f < static_cast<int>(v.Rejilla().size()); ++f) {
+        for (int c = 0; c < 2; ++c) {
+            v.ElegirCelda({f, c});
+            v.Vaciar();
+        }
+    }
+    for (const auto& equipo : equipos) {
+        if (std::find(v.Equipos().begin(), v.Equipos().end(), equipo) == v.Equipos().end()) {
+            throw base::Error("El equipo " + equipo + " no es de la división");
+        }
+        if (!v.Agregar(equipo)) return false;
+    }
+    return true;
+}
+
 }  // namespace
+
+int LigaJornada(const Argumentos& argumentos, std::ostream& salida) {
+    argumentos.ExigirPosicionales(0, kUsoLigaJornada);
+    const int division = Division(argumentos, kUsoLigaJornada);
+    const int jornada = std::atoi(argumentos.Exigir("jornada", kUsoLigaJornada).c_str());
+    const std::string fecha = argumentos.Exigir("fecha", kUsoLigaJornada);
+    const auto equipos = Separar(argumentos.Exigir("equipos", kUsoLigaJornada));
+    const auto carpetaTrabajo = argumentos.CarpetaTrabajo();
+    const base::AjustesIni ajustes(carpetaTrabajo);
+    DialogoDeOrdenes dialogo(std::cerr);
+    const auto carpeta = seasons::CarpetaTemporadaEnCurso(carpetaTrabajo);
+    seasons::VentanaJornadasLiga v(
+        carpeta, seasons::TemporadaDeCarpeta(carpeta.filename().string()), ajustes, dialogo);
+    v.ElegirDivision(division);
+    if (jornada < 1 || jornada > v.Jornadas())
+        throw ErrorDeUso{"Uso: quinteva-cli " + std::string(kUsoLigaJornada)};
+    v.ElegirJornada(jornada);
+    if (!PonerEquipos(v, equipos)) return 1;
+    if (fecha != v.Fecha()) {
+        for (char tecla : fecha) {
+            if (!v.TeclaFecha(tecla)) return 1;
+        }
+        v.EscribirFecha(fecha);
+    }
+    if (!v.Guardar()) return 1;
+    salida << "Jornada " << jornada << " de " << division << "ª División guardada\n";
+    return 0;
+}
 
 int ClasificacionCmd(const Argumentos& argumentos, std::ostream& salida) {
     argumentos.ExigirPosicionales(0, kUsoClasificacion);

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "base/record_files.h"
+#include "base/text1252.h"
 #include "seasons/record_files.h"
 #include "seasons/season_folder.h"
 #include "tests/cli/cli_runner.h"
@@ -37,6 +38,51 @@ TEST(CliClasificacion, LaTablaYRecalcular) {
         }
     }
     EXPECT_EQ(EjecutarCli("clasificacion --division 3" + carpeta).codigo, 2);
+}
+
+// Una Jornada de Liga nueva en una temporada nueva, luego cambiada, luego solo su fecha.
+TEST(CliLigaJornada, NuevaCambiadaYSoloLaFecha) {
+    CarpetaTemporal trabajo;
+    const std::string carpeta = " --carpeta '" + trabajo.Ruta().string() + "'";
+    ASSERT_EQ(EjecutarCli("demo" + carpeta).codigo, 0);
+    ASSERT_EQ(EjecutarCli("nueva-temporada 24/25 --equipos1 20 --equipos2 22" + carpeta).codigo, 0);
+    const auto temporada = seasons::CarpetaTemporadaEnCurso(trabajo.Ruta());
+    std::string equipos;
+    {
+        base::ArchivoDe<seasons::RegEquipo> nomeq(temporada / seasons::kNomeq);
+        for (std::int32_t n = 1; n <= nomeq.Cuenta(); ++n) {
+            const auto e = nomeq.Leer(n);
+            if (e.division == 1)
+                equipos += (equipos.empty() ? "" : ",") + std::string(base::Recortar(e.nombre));
+        }
+    }
+    const Salida faltan = EjecutarCli(
+        "liga-jornada --division 1 --jornada 1 --fecha 17/08/24 "
+        "--equipos 'Girona,Betis'" +
+        carpeta);
+    EXPECT_EQ(faltan.codigo, 1);
+    EXPECT_EQ(faltan.errores, "No están introducidos todos los Equipos.\n");
+    const Salida nueva =
+        EjecutarCli("liga-jornada --division 1 --jornada 1 --fecha 17/08/24 --equipos '" + equipos +
+                    "'" + carpeta);
+    EXPECT_EQ(nueva.codigo, 0) << nueva.errores;
+    base::ArchivoDe<seasons::RegPartidoLiga> liga(temporada / seasons::kJlig2);
+    ASSERT_EQ(liga.Cuenta(), 10);
+    EXPECT_EQ(liga.Leer(10).partido, 10);
+    EXPECT_EQ(liga.Leer(1).temporada, "24/25");
+    const Salida fecha =
+        EjecutarCli("liga-jornada --division 1 --jornada 1 --fecha 18/08/24 --equipos '" + equipos +
+                    "'" + carpeta);
+    EXPECT_EQ(fecha.codigo, 0) << fecha.errores;
+    EXPECT_EQ(liga.Cuenta(), 10);
+    EXPECT_EQ(liga.Leer(10).fecha, liga.Leer(1).fecha);
+    const Salida ajena = EjecutarCli(
+        "liga-jornada --division 1 --jornada 1 --fecha 18/08/24 "
+        "--equipos 'Leganés,Betis'" +
+        carpeta);
+    EXPECT_EQ(ajena.codigo, 1);
+    EXPECT_NE(ajena.errores.find("no es de la división"), std::string::npos);
+    EXPECT_EQ(liga.Cuenta(), 10);
 }
 
 }  // namespace
