@@ -43,6 +43,14 @@ std::string Argumentos::Exigir(std::string_view opcion, std::string_view uso) co
     return *valor;
 }
 
+int Argumentos::Division(std::string_view uso) const {
+    const std::string division = Exigir("division", uso);
+    if (division != "1" && division != "2") {
+        throw ErrorDeUso{"Uso: quinteva-cli " + std::string(uso)};
+    }
+    return division == "1" ? 1 : 2;
+}
+
 std::filesystem::path Argumentos::CarpetaTrabajo() const {
     const auto carpeta = Valor("carpeta");
     return base::ResolverCarpetaTrabajo(carpeta ? std::optional<std::filesystem::path>(*carpeta)

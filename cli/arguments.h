@@ -35,6 +35,8 @@ class Argumentos {
     void ExigirPosicionales(std::size_t n, std::string_view uso) const;
     // El valor de una opción que no puede faltar.
     std::string Exigir(std::string_view opcion, std::string_view uso) const;
+    // --division, que no puede faltar: 1 o 2.
+    int Division(std::string_view uso) const;
 
     // La carpeta de trabajo: --carpeta, si no QUINTEVA_CARPETA, si no la del usuario.
     std::filesystem::path CarpetaTrabajo() const;

@@ -21,14 +21,6 @@ constexpr std::string_view kUsoRecalcular = "recalcular --division 1|2";
 constexpr std::string_view kUsoLigaJornada =
     "liga-jornada --division 1|2 --jornada N --fecha dd/mm/aa --equipos \"L1,V1,L2,V2,...\"";
 
-int Division(const Argumentos& argumentos, std::string_view uso) {
-    const std::string division = argumentos.Exigir("division", uso);
-    if (division != "1" && division != "2") {
-        throw ErrorDeUso{"Uso: quinteva-cli " + std::string(uso)};
-    }
-    return division == "1" ? 1 : 2;
-}
-
 void PuestoJson(const seasons::PuestoClasificacion& p, std::ostream& salida) {
     salida << "{\"Posicion\": " << p.posicion << ", \"Nombre\": " << TextoJson(p.nombre)
            << ", \"Puntos\": " << p.puntos << ", \"Jugados\": " << p.jugados
@@ -75,7 +67,7 @@ bool PonerEquipos(seasons::VentanaJornadasLiga& v, const std::vector<std::string
 
 int LigaJornada(const Argumentos& argumentos, std::ostream& salida) {
     argumentos.ExigirPosicionales(0, kUsoLigaJornada);
-    const int division = Division(argumentos, kUsoLigaJornada);
+    const int division = argumentos.Division(kUsoLigaJornada);
     const int jornada = std::atoi(argumentos.Exigir("jornada", kUsoLigaJornada).c_str());
     const std::string fecha = argumentos.Exigir("fecha", kUsoLigaJornada);
     const auto equipos = Separar(argumentos.Exigir("equipos", kUsoLigaJornada));
@@ -103,7 +95,7 @@ int LigaJornada(const Argumentos& argumentos, std::ostream& salida) {
 
 int ClasificacionCmd(const Argumentos& argumentos, std::ostream& salida) {
     argumentos.ExigirPosicionales(0, kUsoClasificacion);
-    const int division = Division(argumentos, kUsoClasificacion);
+    const int division = argumentos.Division(kUsoClasificacion);
     const auto carpetaTrabajo = argumentos.CarpetaTrabajo();
     const base::AjustesIni ajustes(carpetaTrabajo);
     const auto filas = seasons::FilasClasificacion(seasons::CarpetaTemporadaEnCurso(carpetaTrabajo),
@@ -136,7 +128,7 @@ int ClasificacionCmd(const Argumentos& argumentos, std::ostream& salida) {
 
 int RecalcularCmd(const Argumentos& argumentos, std::ostream&) {
     argumentos.ExigirPosicionales(0, kUsoRecalcular);
-    const int division = Division(argumentos, kUsoRecalcular);
+    const int division = argumentos.Division(kUsoRecalcular);
     const auto carpetaTrabajo = argumentos.CarpetaTrabajo();
     base::AjustesIni ajustes(carpetaTrabajo);
     DialogoDeOrdenes dialogo(std::cerr);

@@ -28,14 +28,6 @@ constexpr std::string_view kMsgNombreLargo =
 constexpr std::string_view kMsgSoloMirar =
     "Al estar creadas las Jornadas de Liga ya no se puede añadir ningún Equipo.";
 
-// --division 1 o 2, como índice de la ventana (0 o 1).
-int Division(const Argumentos& argumentos, std::string_view uso) {
-    const std::string division = argumentos.Exigir("division", uso);
-    if (division != "1" && division != "2")
-        throw ErrorDeUso{"Uso: quinteva-cli " + std::string(uso)};
-    return division == "1" ? 0 : 1;
-}
-
 // Cada llamada es una ventana que se abre, se usa y se cierra.
 struct Ventana {
     std::filesystem::path carpetaTrabajo;
@@ -133,7 +125,8 @@ int EquiposCmd(const Argumentos& argumentos, std::ostream& salida) {
 
 int EquipoNuevo(const Argumentos& argumentos, std::ostream& salida) {
     argumentos.ExigirPosicionales(0, kUsoEquipoNuevo);
-    const int division = Division(argumentos, kUsoEquipoNuevo);
+    // La ventana cuenta las divisiones desde 0.
+    const int division = argumentos.Division(kUsoEquipoNuevo) - 1;
     const std::string nombre = argumentos.Exigir("nombre", kUsoEquipoNuevo);
     if (base::AWindows1252(nombre).size() > 15) throw base::Error(std::string(kMsgNombreLargo));
     Ventana v(argumentos);

@@ -32,7 +32,7 @@ class AjustesVacios : public base::Ajustes {
     void Guardar(std::string_view, std::string_view, std::string_view, std::string_view) override {}
 };
 
-// Contesta que no a todo: nada se borra ni se crea por una pregunta.
+// Contesta que no a cada pregunta: nada se borra ni se crea por una.
 class DialogoMudo : public base::Dialogo {
   public:
     void Mensaje(std::string_view, base::Icono) override {}

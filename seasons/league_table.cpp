@@ -7,6 +7,7 @@
 #include "base/error.h"
 #include "base/record_files.h"
 #include "base/text1252.h"
+#include "seasons/league.h"
 #include "seasons/record_files.h"
 #include "seasons/season_folder.h"
 
@@ -165,7 +166,7 @@ int Clasificacion::Enfrentamientos::Diferencia(const std::string& local,
     return diferencia_[indices_.at(local) * indices_.size() + indices_.at(visitante)];
 }
 
-// Lo que x sacó de sus partidos con cada y de las filas, en casa y fuera, en todo "Jlig2.rar"
+// Lo que x sacó de sus partidos con cada y de las filas, en casa y fuera, en el "Jlig2.rar" entero
 // (sin mirar la Jornada: los partidos sin jugar suman 0).
 void Clasificacion::SubClasifica(std::size_t primero, std::size_t ultimo,
                                  const Enfrentamientos& enfrentamientos) {
@@ -213,10 +214,8 @@ bool Recalcular(const fs::path& carpetaTemporada, int division, const base::Ajus
 std::vector<std::optional<PuestoClasificacion>> FilasClasificacion(const fs::path& carpetaTemporada,
                                                                    int division,
                                                                    const base::Ajustes& ajustes) {
-    const std::string filas = ajustes.Leer(
-        base::kAplicacion, "Valores", division == 1 ? "NEq1" : "NEq2", division == 1 ? "20" : "22");
     std::vector<std::optional<PuestoClasificacion>> tabla(
-        static_cast<std::size_t>(std::max(0, std::atoi(filas.c_str()))));
+        static_cast<std::size_t>(std::max(0, EquiposDeLaDivision(ajustes, division))));
     base::ArchivoDe<RegEquipo> equipos(carpetaTemporada / kNomeq);
     for (std::int32_t n = 1; n <= equipos.Cuenta(); ++n) {
         const RegEquipo e = equipos.Leer(n);

@@ -35,7 +35,7 @@ class Clasificacion {
     Clasificacion(std::filesystem::path carpetaTemporada, int division);
 
     // Suma la Jornada a las cifras de los equipos de la división y les da su puesto. Una Jornada
-    // sin goles (todo 0-0) no se ha jugado: false, sin cambios.
+    // sin goles (solo 0-0) no se ha jugado: false, sin cambios.
     bool Clasifica(int jornada);
 
     // Una fila de la tabla de trabajo; las columnas son texto, como en la rejilla.
@@ -50,8 +50,8 @@ class Clasificacion {
 
   private:
     // La diferencia de goles de cada partido entre dos nombres de la tabla (el primero en casa),
-    // sumada sobre todo "Jlig2.rar": lo que SubClasifica sacaría recorriendo el archivo por cada
-    // par, de una sola pasada.
+    // sumada sobre el "Jlig2.rar" entero: lo que SubClasifica sacaría recorriendo el archivo por
+    // cada par, de una sola pasada.
     class Enfrentamientos {
       public:
         Enfrentamientos(const std::vector<Fila>& tabla,
