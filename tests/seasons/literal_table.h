@@ -113,7 +113,7 @@ class ClasificacionLiteral {
         });
     }
 
-    // Dos recorridos de todo "Jlig2.rar" por cada par ordenado de las filas.
+    // Dos recorridos del "Jlig2.rar" entero por cada par ordenado de las filas.
     void SubClasifica(std::size_t primero, std::size_t ultimo) {
         base::ArchivoDe<seasons::RegPartidoLiga> liga(carpeta_ / seasons::kJlig2);
         std::vector<int> cifras(ultimo - primero + 1, 0);
