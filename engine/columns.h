@@ -48,9 +48,4 @@ struct RegistroColumna {
     friend bool operator==(const RegistroColumna&, const RegistroColumna&) = default;
 };
 
-// Par de goles a la letra de "A" a "P" (local fuera, visitante dentro, en el orden 0, 1, 2, M);
-// "" si el par no es válido. LetraAPleno hace lo contrario y da "" para cualquier otra letra.
-std::string PlenoALetra(std::string_view golesLocal, std::string_view golesVisitante);
-std::string LetraAPleno(std::string_view letra);
-
 }  // namespace quinteva::engine

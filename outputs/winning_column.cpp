@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "base/pleno_letter.h"
 #include "engine/columns.h"
 
 namespace quinteva::outputs {
@@ -18,13 +19,13 @@ std::string CeldaDe(char c) { return c == ' ' ? std::string() : std::string(1, c
 ColumnaGanadora GanadoraDeResultado(std::string_view resultado) {
     ColumnaGanadora ganadora;
     for (std::size_t i = 0; i < kLetraPleno; ++i) ganadora += Caracter(resultado, i);
-    return ganadora + engine::LetraAPleno(std::string(1, Caracter(resultado, kLetraPleno)));
+    return ganadora + base::LetraAPleno(std::string(1, Caracter(resultado, kLetraPleno)));
 }
 
 RejillaGanadora RejillaDeResultado(std::string_view resultado) {
     RejillaGanadora rejilla;
     for (std::size_t i = 0; i < kLetraPleno; ++i) rejilla[i] = CeldaDe(Caracter(resultado, i));
-    const std::string pleno = engine::LetraAPleno(std::string(1, Caracter(resultado, kLetraPleno)));
+    const std::string pleno = base::LetraAPleno(std::string(1, Caracter(resultado, kLetraPleno)));
     if (pleno.size() == 2) rejilla[kLetraPleno] = std::string{pleno[0], ' ', pleno[1]};
     return rejilla;
 }
@@ -34,7 +35,7 @@ std::string ResultadoDeRejilla(const RejillaGanadora& rejilla) {
     for (std::size_t i = 0; i < kLetraPleno; ++i) resultado += Caracter(rejilla[i], 0);
     const std::string& pleno = rejilla[kLetraPleno];
     const std::string letra = pleno.size() == 3
-                                  ? engine::PlenoALetra(pleno.substr(0, 1), pleno.substr(2, 1))
+                                  ? base::PlenoALetra(pleno.substr(0, 1), pleno.substr(2, 1))
                                   : std::string();
     return resultado + (letra.empty() ? std::string(" ") : letra);
 }

@@ -204,8 +204,8 @@ bool Recalcular(const fs::path& carpetaTemporada, int division, const base::Ajus
         return false;
     }
     CifrasACero(carpetaTemporada, division);
-    const std::string clave = division == 1 ? "MaxJor1ª" : "MaxJor2ª";
-    const int ultima = std::atoi(ajustes.Leer(base::kAplicacion, "Valores", clave, "0").c_str());
+    const int ultima =
+        std::atoi(ajustes.Leer(base::kAplicacion, "Valores", ClaveMaxJor(division), "0").c_str());
     Clasificacion clasificacion(carpetaTemporada, division);
     for (int j = 1; j <= ultima; ++j) clasificacion.Clasifica(j);
     return true;

@@ -34,6 +34,9 @@ class Clasificacion {
   public:
     Clasificacion(std::filesystem::path carpetaTemporada, int division);
 
+    // La división del selector de la ventana de resultados; la tabla de trabajo sigue la misma.
+    void ElegirDivision(int division) { division_ = division; }
+
     // Suma la Jornada a las cifras de los equipos de la división y les da su puesto. Una Jornada
     // sin goles (solo 0-0) no se ha jugado: false, sin cambios.
     bool Clasifica(int jornada);

@@ -75,6 +75,8 @@ std::filesystem::path RutaArchivo(const ArchivoTemporada& archivo,
     return (archivo.enCarpetaTrabajo ? carpetaTrabajo : carpetaTemporada) / archivo.nombre;
 }
 
+std::string ClaveMaxJor(int division) { return division == 1 ? "MaxJor1ª" : "MaxJor2ª"; }
+
 MaximasJornadas MaxJornada(const std::filesystem::path& carpetaTemporada, base::Ajustes& ajustes) {
     MaximasJornadas maximas;
     const base::ArchivoDe<RegPartidoLiga> liga(carpetaTemporada / kJlig2);
@@ -85,8 +87,8 @@ MaximasJornadas MaxJornada(const std::filesystem::path& carpetaTemporada, base::
         if (partido.division == 1) maximas.primera = std::max(maximas.primera, partido.jornada);
         if (partido.division == 2) maximas.segunda = std::max(maximas.segunda, partido.jornada);
     }
-    ajustes.Guardar(base::kAplicacion, "Valores", "MaxJor1ª", std::to_string(maximas.primera));
-    ajustes.Guardar(base::kAplicacion, "Valores", "MaxJor2ª", std::to_string(maximas.segunda));
+    ajustes.Guardar(base::kAplicacion, "Valores", ClaveMaxJor(1), std::to_string(maximas.primera));
+    ajustes.Guardar(base::kAplicacion, "Valores", ClaveMaxJor(2), std::to_string(maximas.segunda));
     return maximas;
 }
 

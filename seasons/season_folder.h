@@ -63,6 +63,9 @@ struct MaximasJornadas {
     int segunda = 0;
 };
 
+// La clave de la última Jornada clasificada de una división: "MaxJor1ª" o "MaxJor2ª".
+std::string ClaveMaxJor(int division);
+
 // MaxJornada: recorre "Jlig2.rar" y guarda "MaxJor1ª" y "MaxJor2ª" en la sección "Valores". Un
 // partido 0-0 cuenta como no jugado.
 MaximasJornadas MaxJornada(const std::filesystem::path& carpetaTemporada, base::Ajustes& ajustes);

@@ -15,8 +15,8 @@
 
 #include "base/dates.h"
 #include "base/error.h"
+#include "base/pleno_letter.h"
 #include "base/record_files.h"
-#include "engine/columns.h"
 #include "seasons/record_files.h"
 #include "seasons/season_folder.h"
 
@@ -211,7 +211,7 @@ void Quiniela(int q, const Division& d1, const Division& d2,
         r.visitante = d.equipos[static_cast<std::size_t>(p.visitante)];
         r.signo = partido < 15 ? Signo(p)
                   : p.jugado
-                      ? engine::PlenoALetra(GolPleno(p.golesLocal), GolPleno(p.golesVisitante))
+                      ? base::PlenoALetra(GolPleno(p.golesLocal), GolPleno(p.golesVisitante))
                       : " ";
         jquin.Anadir(r);
         columna.signos[static_cast<std::size_t>(partido - 1)] = r.signo[0];
