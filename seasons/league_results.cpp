@@ -174,10 +174,10 @@ bool VentanaResultadosLiga::Guardar() {
         return false;
     }
     {
-        ArchivosResultados archivos{{carpetaTemporada_ / kJlig2},
-                                    {carpetaTrabajo_ / kHist},
-                                    {carpetaTemporada_ / kJquin},
-                                    {carpetaTemporada_ / kJornadas}};
+        ArchivosResultados archivos{base::ArchivoDe<RegPartidoLiga>(carpetaTemporada_ / kJlig2),
+                                    base::ArchivoDe<RegPartidoLiga>(carpetaTrabajo_ / kHist),
+                                    base::ArchivoDe<RegPartidoQuin>(carpetaTemporada_ / kJquin),
+                                    base::ArchivoDe<RegJornadaQuin>(carpetaTemporada_ / kJornadas)};
         for (std::size_t f = 0; f < rejilla_.size(); ++f) {
             const FilaResultado& fila = rejilla_[f];
             if (fila.golesLocal.empty() || fila.golesVisitante.empty()) continue;
