@@ -34,8 +34,8 @@ std::vector<Registro> Registros(const fs::path& ruta) {
     return todos;
 }
 
-constexpr double kFecha1 = 45'200;  // 30/09/23
-constexpr double kFecha2 = 45'207;  // 07/10/23
+constexpr double kFecha1 = 45'200;  // 01/10/23
+constexpr double kFecha2 = 45'207;  // 08/10/23
 
 // Una 1ª de cuatro equipos con dos Jornadas de calendario sin jugar, una Quiniela (la 7) con sus
 // dos partidos de la Jornada 1 (el segundo en el Pleno al 15) y su columna en "Jornadas.rar",
@@ -124,7 +124,7 @@ TEST(ResultadosLiga, LaRejillaMuestraCeroACeroLoQueNoSeJugoYLaFecha) {
     EXPECT_EQ(r.ventana.Jornadas(), 6);
     EXPECT_EQ(r.ventana.Rejilla(), (std::vector<FilaResultado>{{"Girona", "Betis", "0", "0"},
                                                                {"Cádiz", "Celta", "0", "0"}}));
-    EXPECT_EQ(r.ventana.Fecha(), "30/09/23");
+    EXPECT_EQ(r.ventana.Fecha(), "01/10/23");
     EXPECT_FALSE(r.ventana.PuedeGuardar());
     r.ventana.ElegirJornada(3);
     EXPECT_EQ(r.ventana.Rejilla(), (std::vector<FilaResultado>(2)));
@@ -288,7 +288,8 @@ TEST(ResultadosLiga, LaUltimaJornadaSeSumaYGuardadaDosVecesSeSumaDosVeces) {
     ASSERT_TRUE(r.ventana.Guardar());
     EXPECT_EQ(r.ajustes.Leer(base::kAplicacion, "Valores", "MaxJor1ª", ""), "1");
     EXPECT_EQ(r.Equipo("Girona").puntos, 3);
-    EXPECT_EQ(r.Equipo("Girona").posicion, 1);
+    EXPECT_EQ(r.Equipo("Cádiz").posicion, 1);
+    EXPECT_EQ(r.Equipo("Girona").posicion, 2);
     EXPECT_EQ(r.Equipo("Celta").posicionJornada[0], 4);
     ASSERT_TRUE(r.ventana.Guardar());
     EXPECT_EQ(r.Equipo("Girona").puntos, 6);
@@ -317,7 +318,7 @@ TEST(ResultadosLiga, CambiarUnaJornadaAnteriorRehaceLaClasificacion) {
     EXPECT_EQ(r.Equipo("Girona").puntos, 1);
     EXPECT_EQ(r.Equipo("Girona").jugados, 2);
     EXPECT_EQ(r.Equipo("Betis").puntos, 4);
-    EXPECT_EQ(r.Equipo("Cádiz").puntos, 6);
+    EXPECT_EQ(r.Equipo("Cádiz").puntos, 4);
     EXPECT_EQ(r.Equipo("Cádiz").posicion, 1);
 }
 
