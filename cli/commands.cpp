@@ -57,6 +57,12 @@ std::span<const Subcomando> Subcomandos() {
          "lo que cambie.",
          {{"division", "jornada", "fecha", "equipos"}, {}},
          &LigaJornada},
+        {"liga-resultados",
+         "liga-resultados --division 1|2 --jornada N --goles \"2-1 0-0 - 3-1 ...\"",
+         "\"Guardar\" de \"Introducir o Ver Resultados\" de la Liga: un L-V por fila, - para "
+         "dejarla en blanco; luego la clasificación.",
+         {{"division", "jornada", "goles"}, {}},
+         &LigaResultados},
         {"nueva",
          "nueva RUTA.uxd --base \"1X2 1 X 12 ...\" --pleno H-A [--jornada N] [--carpeta DIR]",
          "Una Combinación nueva con esa Quiniela Base y las condiciones por defecto, guardada.",

@@ -30,6 +30,7 @@ int TodoACeroCmd(const Argumentos& argumentos, std::ostream& salida);
 int ClasificacionCmd(const Argumentos& argumentos, std::ostream& salida);
 int RecalcularCmd(const Argumentos& argumentos, std::ostream& salida);
 int LigaJornada(const Argumentos& argumentos, std::ostream& salida);
+int LigaResultados(const Argumentos& argumentos, std::ostream& salida);
 int Nueva(const Argumentos& argumentos, std::ostream& salida);
 int Info(const Argumentos& argumentos, std::ostream& salida);
 int GenerarCmd(const Argumentos& argumentos, std::ostream& salida);

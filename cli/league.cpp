@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <cstdlib>
 #include <iostream>
+#include <iterator>
 #include <sstream>
 
 #include "base/error.h"
@@ -10,6 +11,7 @@
 #include "cli/commands.h"
 #include "cli/json_output.h"
 #include "seasons/league.h"
+#include "seasons/league_results.h"
 #include "seasons/league_table.h"
 #include "seasons/season_folder.h"
 
@@ -20,6 +22,8 @@ constexpr std::string_view kUsoClasificacion = "clasificacion --division 1|2 [--
 constexpr std::string_view kUsoRecalcular = "recalcular --division 1|2";
 constexpr std::string_view kUsoLigaJornada =
     "liga-jornada --division 1|2 --jornada N --fecha dd/mm/aa --equipos \"L1,V1,L2,V2,...\"";
+constexpr std::string_view kUsoLigaResultados =
+    "liga-resultados --division 1|2 --jornada N --goles \"2-1 0-0 - 3-1 ...\"";
 
 void PuestoJson(const seasons::PuestoClasificacion& p, std::ostream& salida) {
     salida << "{\"Posicion\": " << p.posicion << ", \"Nombre\": " << TextoJson(p.nombre)
@@ -63,6 +67,29 @@ bool PonerEquipos(seasons::VentanaJornadasLiga& v, const std::vector<std::string
     return true;
 }
 
+// Los goles de cada fila, "L-V" o "-" para dejarla en blanco, en la rejilla de la ventana; todo
+// se comprueba antes de guardar, así que un rechazo no toca los archivos.
+void PonerResultados(seasons::VentanaResultadosLiga& v, const std::string& goles) {
+    std::istringstream texto(goles);
+    std::vector<std::string> filas{std::istream_iterator<std::string>(texto), {}};
+    if (filas.size() != v.Rejilla().size()) {
+        throw base::Error("La Jornada tiene " + std::to_string(v.Rejilla().size()) +
+                          " partidos y se dieron " + std::to_string(filas.size()) + " resultados");
+    }
+    for (std::size_t f = 0; f < filas.size(); ++f) {
+        const std::string& fila = filas[f];
+        const auto guion = fila.find('-');
+        const bool enBlanco = fila == "-";
+        const std::string local = enBlanco ? "" : fila.substr(0, guion);
+        const std::string visitante = enBlanco ? "" : fila.substr(guion + 1);
+        if (!enBlanco && (guion == std::string::npos || local.empty() || visitante.empty() ||
+                          !v.PonerGoles(static_cast<int>(f), local, visitante))) {
+            throw base::Error("Los goles se dan con cifras, como 2-1: " + fila);
+        }
+        if (enBlanco) v.PonerGoles(static_cast<int>(f), "", "");
+    }
+}
+
 }  // namespace
 
 int LigaJornada(const Argumentos& argumentos, std::ostream& salida) {
@@ -90,6 +117,29 @@ int LigaJornada(const Argumentos& argumentos, std::ostream& salida) {
     }
     if (!v.Guardar()) return 1;
     salida << "Jornada " << jornada << " de " << division << "ª División guardada\n";
+    return 0;
+}
+
+int LigaResultados(const Argumentos& argumentos, std::ostream& salida) {
+    argumentos.ExigirPosicionales(0, kUsoLigaResultados);
+    const int division = argumentos.Division(kUsoLigaResultados);
+    const int jornada = std::atoi(argumentos.Exigir("jornada", kUsoLigaResultados).c_str());
+    const std::string goles = argumentos.Exigir("goles", kUsoLigaResultados);
+    const auto carpetaTrabajo = argumentos.CarpetaTrabajo();
+    base::AjustesIni ajustes(carpetaTrabajo);
+    DialogoDeOrdenes dialogo(std::cerr);
+    const auto carpeta = seasons::CarpetaTemporadaEnCurso(carpetaTrabajo);
+    seasons::VentanaResultadosLiga v(carpetaTrabajo, carpeta,
+                                     seasons::TemporadaDeCarpeta(carpeta.filename().string()),
+                                     ajustes, dialogo);
+    v.ElegirDivision(division);
+    if (jornada < 1 || jornada > v.Jornadas())
+        throw ErrorDeUso{"Uso: quinteva-cli " + std::string(kUsoLigaResultados)};
+    v.ElegirJornada(jornada);
+    PonerResultados(v, goles);
+    if (!v.Guardar()) return 1;
+    salida << "Resultados de la Jornada " << jornada << " de " << division
+           << "ª División guardados\n";
     return 0;
 }
 

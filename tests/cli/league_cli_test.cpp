@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <fstream>
+
 #include "base/record_files.h"
 #include "base/text1252.h"
 #include "seasons/record_files.h"
@@ -83,6 +85,51 @@ TEST(CliLigaJornada, NuevaCambiadaYSoloLaFecha) {
     EXPECT_EQ(ajena.codigo, 1);
     EXPECT_NE(ajena.errores.find("no es de la división"), std::string::npos);
     EXPECT_EQ(liga.Cuenta(), 10);
+}
+
+std::string Leer(const std::filesystem::path& ruta) {
+    std::ifstream f(ruta, std::ios::binary);
+    return {std::istreambuf_iterator<char>(f), std::istreambuf_iterator<char>()};
+}
+
+// Los resultados de una Jornada de la temporada de demostración, con una fila en blanco, y lo
+// que se rehúsa sin tocar los archivos.
+TEST(CliLigaResultados, GuardaLosGolesYLaClasificacion) {
+    CarpetaTemporal trabajo;
+    const std::string carpeta = " --carpeta '" + trabajo.Ruta().string() + "'";
+    ASSERT_EQ(EjecutarCli("demo" + carpeta).codigo, 0);
+    ASSERT_EQ(EjecutarCli("nueva-temporada 24/25 --equipos1 4 --equipos2 22" + carpeta).codigo, 0);
+    const auto temporada = seasons::CarpetaTemporadaEnCurso(trabajo.Ruta());
+    const Salida jornada = EjecutarCli(
+        "liga-jornada --division 1 --jornada 1 --fecha 17/08/24 --equipos "
+        "'Girona,Betis,Cádiz,Celta'" +
+        carpeta);
+    ASSERT_EQ(jornada.codigo, 0) << jornada.errores;
+    const std::string antes = Leer(temporada / seasons::kJlig2);
+
+    for (const char* goles : {"'2-x -'", "'2-1'", "'2-1 0-0 1-1'", "'21 -'", "'2- -'"}) {
+        const Salida mal = EjecutarCli("liga-resultados --division 1 --jornada 1 --goles " +
+                                       std::string(goles) + carpeta);
+        EXPECT_EQ(mal.codigo, 1) << goles;
+        EXPECT_FALSE(mal.errores.empty()) << goles;
+        EXPECT_EQ(Leer(temporada / seasons::kJlig2), antes) << goles;
+    }
+    EXPECT_EQ(
+        EjecutarCli("liga-resultados --division 1 --jornada 7 --goles '- -'" + carpeta).codigo, 2);
+
+    const Salida bien =
+        EjecutarCli("liga-resultados --division 1 --jornada 1 --goles '3-1 -'" + carpeta);
+    ASSERT_EQ(bien.codigo, 0) << bien.errores;
+    EXPECT_EQ(bien.salida, "Resultados de la Jornada 1 de 1ª División guardados\n");
+    base::ArchivoDe<seasons::RegPartidoLiga> liga(temporada / seasons::kJlig2);
+    EXPECT_EQ(liga.Leer(1).golesLocal, 3);
+    EXPECT_EQ(liga.Leer(1).golesVisitante, 1);
+    const Salida tabla = EjecutarCli("clasificacion --division 1 --json" + carpeta);
+    EXPECT_EQ(tabla.salida.rfind("[{\"Posicion\": 1, \"Nombre\": \"Girona\", \"Puntos\": 3, "
+                                 "\"Jugados\": 1",
+                                 0),
+              0U)
+        << tabla.salida;
 }
 
 }  // namespace
