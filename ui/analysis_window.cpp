@@ -10,14 +10,11 @@
 #include <QVBoxLayout>
 
 #include "outputs/analysis_view.h"
+#include "ui/qt_text.h"
 #include "ui/report_grid.h"
 
 namespace quinteva::ui {
 namespace {
-
-QString Q(std::string_view t) {
-    return QString::fromUtf8(t.data(), static_cast<qsizetype>(t.size()));
-}
 
 const QColor kPremiada(255, 236, 160);
 constexpr std::string_view kFilaPremios = "Premios";

@@ -11,6 +11,7 @@
 #include <QVBoxLayout>
 
 #include "ui/info_panel.h"
+#include "ui/qt_text.h"
 
 namespace quinteva::ui {
 namespace {
@@ -18,8 +19,6 @@ namespace {
 constexpr int kFilaPleno = engine::QuinielaBase::kFilas - 1;
 const QColor kElegido(200, 235, 200);
 const QColor kPleno(255, 248, 210);
-
-QString Q(const std::string& t) { return QString::fromStdString(t); }
 
 bool EsNavegacion(int tecla) {
     switch (tecla) {

@@ -1,4 +1,5 @@
 #include "ui/conditions_page.h"
+#include "ui/qt_text.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -64,8 +65,6 @@ QLabel* Ayuda(const QString& texto, QWidget* madre) {
     l->setWordWrap(true);
     return l;
 }
-
-QString Q(const std::string& t) { return QString::fromStdString(t); }
 
 }  // namespace
 

@@ -6,15 +6,12 @@
 #include <QStringList>
 
 #include "ui/dialog_folder.h"
+#include "ui/qt_text.h"
 
 namespace quinteva::ui {
 namespace {
 
 const QString kTitulo = QStringLiteral("Quinteva");
-
-QString Q(std::string_view texto) {
-    return QString::fromUtf8(texto.data(), static_cast<qsizetype>(texto.size()));
-}
 
 QString Ruta(const std::filesystem::path& ruta) { return QString::fromStdString(ruta.string()); }
 

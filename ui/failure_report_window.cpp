@@ -7,14 +7,11 @@
 #include <QVBoxLayout>
 
 #include "outputs/failure_report.h"
+#include "ui/qt_text.h"
 #include "ui/report_grid.h"
 
 namespace quinteva::ui {
 namespace {
-
-QString Q(std::string_view t) {
-    return QString::fromUtf8(t.data(), static_cast<qsizetype>(t.size()));
-}
 
 constexpr int kMenosSegunda = 20;
 

@@ -21,6 +21,7 @@
 #include "ui/blinking_greeting.h"
 #include "ui/failure_report_window.h"
 #include "ui/located_columns_window.h"
+#include "ui/qt_text.h"
 
 namespace quinteva::ui {
 namespace {
@@ -33,10 +34,6 @@ constexpr int kCeldaEntrada = 1;
 constexpr int kRefresco = 50;  // ms entre dos lecturas del avance
 constexpr std::string_view kFiltroOtras =
     "Archivo oficial JSON (*.json)|*.json|Archivo AD243 (*.*)|*.*|";
-
-QString Q(std::string_view t) {
-    return QString::fromUtf8(t.data(), static_cast<qsizetype>(t.size()));
-}
 
 QPushButton* Boton(QWidget* madre, QVBoxLayout* caja, const QString& texto, const QString& nombre) {
     auto* b = new QPushButton(texto, madre);

@@ -1,4 +1,5 @@
 #include "ui/info_panel.h"
+#include "ui/qt_text.h"
 
 #include <QHeaderView>
 #include <QLabel>
@@ -12,10 +13,6 @@ namespace {
 
 const QColor kColorLocal(0, 90, 200);
 const QColor kColorVisitante(200, 60, 0);
-
-QString Q(std::string_view t) {
-    return QString::fromUtf8(t.data(), static_cast<qsizetype>(t.size()));
-}
 
 QTableWidget* Rejilla(QWidget* madre, const QString& nombre, const QStringList& cabeceras) {
     auto* r = new QTableWidget(0, static_cast<int>(cabeceras.size()), madre);

@@ -1,4 +1,5 @@
 #include "ui/json_file_window.h"
+#include "ui/qt_text.h"
 
 #include <QFormLayout>
 #include <QHBoxLayout>
@@ -10,8 +11,6 @@
 
 namespace quinteva::ui {
 namespace {
-
-QString Q(const std::string& t) { return QString::fromStdString(t); }
 
 QLineEdit* Campo(QWidget* madre, QFormLayout* formulario, const QString& rotulo,
                  const QString& nombre, int caracteres) {

@@ -7,17 +7,10 @@
 #include <QTableWidget>
 #include <QVBoxLayout>
 
+#include "ui/qt_text.h"
 #include "ui/report_grid.h"
 
 namespace quinteva::ui {
-namespace {
-
-QString Q(std::string_view t) {
-    return QString::fromUtf8(t.data(), static_cast<qsizetype>(t.size()));
-}
-
-}  // namespace
-
 VentanaColumnasAcertadas::VentanaColumnasAcertadas(
     const std::vector<outputs::FilaLocalizada>& filas, QWidget* madre)
     : QDialog(madre) {

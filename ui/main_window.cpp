@@ -35,6 +35,7 @@
 #include "ui/info_panel.h"
 #include "ui/league_table_window.h"
 #include "ui/options_window.h"
+#include "ui/qt_text.h"
 #include "ui/report_windows.h"
 #include "ui/status_panel.h"
 #include "ui/teams_window.h"
@@ -47,10 +48,6 @@ namespace fs = std::filesystem;
 
 constexpr int kRefresco = 50;  // ms entre dos lecturas del avance de un trabajo
 constexpr std::string_view kValores = "Valores";
-
-QString Q(std::string_view t) {
-    return QString::fromUtf8(t.data(), static_cast<qsizetype>(t.size()));
-}
 
 const QString kEstiloActiva =
     QStringLiteral("QPushButton { background: #3fae49; color: white; font-weight: bold; }");

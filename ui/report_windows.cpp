@@ -7,15 +7,10 @@
 #include <QVBoxLayout>
 
 #include "builders/reduction_display.h"
+#include "ui/qt_text.h"
 #include "ui/report_grid.h"
 
 namespace quinteva::ui {
-namespace {
-
-QString Q(const std::string& t) { return QString::fromStdString(t); }
-
-}  // namespace
-
 VentanaRechazadas::VentanaRechazadas(const std::vector<engine::FilaInforme>& filas, QWidget* madre)
     : QDialog(madre) {
     setObjectName(QStringLiteral("VentanaRechazadas"));

@@ -1,14 +1,11 @@
 #include "ui/settings_qt.h"
+#include "ui/qt_text.h"
 
 #include <QSettings>
 #include <QString>
 
 namespace quinteva::ui {
 namespace {
-
-QString Q(std::string_view texto) {
-    return QString::fromUtf8(texto.data(), static_cast<qsizetype>(texto.size()));
-}
 
 QString Clave(std::string_view seccion, std::string_view clave) {
     return Q(seccion) + QLatin1Char('/') + Q(clave);

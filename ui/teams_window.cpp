@@ -1,4 +1,5 @@
 #include "ui/teams_window.h"
+#include "ui/qt_text.h"
 
 #include <QGridLayout>
 #include <QGroupBox>
@@ -15,12 +16,6 @@
 
 namespace quinteva::ui {
 namespace {
-
-QString Q(std::string_view t) {
-    return QString::fromUtf8(t.data(), static_cast<qsizetype>(t.size()));
-}
-
-std::string S(const QString& t) { return t.toStdString(); }
 
 QLineEdit* Campo(QWidget* madre, const QString& nombre, int largo) {
     auto* campo = new QLineEdit(madre);
