@@ -33,12 +33,10 @@
 #include "ui/boletos_notice.h"
 #include "ui/conditions_page.h"
 #include "ui/info_panel.h"
-#include "ui/league_table_window.h"
 #include "ui/options_window.h"
 #include "ui/qt_text.h"
 #include "ui/report_windows.h"
 #include "ui/status_panel.h"
-#include "ui/teams_window.h"
 #include "ui/work_pages.h"
 
 namespace quinteva::ui {
@@ -217,7 +215,8 @@ void VentanaPrincipal::CrearMenus() {
            false);
     connect(Accion(archivo, QStringLiteral("&Equipos"), QStringLiteral("AccionEquipos")),
             &QAction::triggered, this, &VentanaPrincipal::Equipos);
-    Accion(archivo, QStringLiteral("Jornadas &Liga"), QStringLiteral("AccionJornadasLiga"), false);
+    connect(Accion(archivo, QStringLiteral("Jornadas &Liga"), QStringLiteral("AccionJornadasLiga")),
+            &QAction::triggered, this, &VentanaPrincipal::JornadasLiga);
     Accion(archivo, QStringLiteral("Jornadas &Quiniela"), QStringLiteral("AccionJornadasQuiniela"),
            false);
     archivo->addSeparator();
@@ -248,8 +247,9 @@ void VentanaPrincipal::CrearMenus() {
     Accion(ver, QStringLiteral("&Histórico de Resultados"), QStringLiteral("AccionHistorico"),
            false);
     QMenu* resultados = ver->addMenu(QStringLiteral("&Resultados"));
-    Accion(resultados, QStringLiteral("De Jornadas de &Liga"),
-           QStringLiteral("AccionResultadosLiga"), false);
+    connect(Accion(resultados, QStringLiteral("De Jornadas de &Liga"),
+                   QStringLiteral("AccionResultadosLiga")),
+            &QAction::triggered, this, &VentanaPrincipal::ResultadosLiga);
     Accion(resultados, QStringLiteral("De Jornadas de &Quinielas"),
            QStringLiteral("AccionResultadosQuiniela"), false);
     Accion(resultados, QStringLiteral("Actualización por Internet"),
@@ -562,18 +562,6 @@ void VentanaPrincipal::CopiarCondiciones() {
 }
 
 void VentanaPrincipal::Opciones() { AbrirVentana(new VentanaOpciones(s_.ajustes, this)); }
-
-void VentanaPrincipal::Clasificaciones() {
-    AbrirVentana(
-        new VentanaClasificacion(temporada_.carpetaTemporada, s_.ajustes, s_.dialogo, this));
-}
-
-void VentanaPrincipal::Equipos() {
-    auto* ventana = new VentanaEquiposQt(s_.carpetaTrabajo, temporada_.carpetaTemporada, s_.ajustes,
-                                         s_.dialogo, this);
-    connect(ventana, &VentanaEquiposQt::temporadaNueva, temporadaEtiqueta_, &QLabel::setText);
-    AbrirVentana(ventana);
-}
 
 void VentanaPrincipal::AcercaDe() {
     s_.dialogo.Mensaje("Quinteva " QUINTEVA_VERSION

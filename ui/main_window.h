@@ -88,6 +88,10 @@ class VentanaPrincipal : public QMainWindow {
     void Equipos();
     // "&Clasificaciones": la tabla de cada división.
     void Clasificaciones();
+    // "Jornadas &Liga": el calendario de cada Jornada.
+    void JornadasLiga();
+    // "De Jornadas de &Liga": los goles de cada partido.
+    void ResultadosLiga();
     void AcercaDe();
 
     // La página Boletos: el conjunto que se juega, el ajuste y los mandatos de salida.
@@ -124,6 +128,9 @@ class VentanaPrincipal : public QMainWindow {
     void Abrir(const std::filesystem::path& ruta, int reciente);
     void LimpiarCombinacion(bool vaciarRuta);
     void PonerPartidos(int jornada);
+    // Tras guardar en las ventanas de la temporada: la lista de Jornadas y los partidos de la
+    // Quiniela Base vuelven a leerse de los archivos.
+    void SeguirArchivosDeTemporada();
     void Fallo(const std::exception& e);
     // "&Guardar..." y "G&uardar como" del motor, con el refresco y el manejo de errores comunes.
     using FlujoDeGuardar = bool (*)(engine::Combinacion&, const std::filesystem::path&,

@@ -1,0 +1,66 @@
+// Los mandatos de la ventana principal que abren las ventanas de la temporada: equipos, Jornadas
+// y resultados de Liga, clasificaciones.
+#include <algorithm>
+
+#include "seasons/league.h"
+#include "seasons/season_folder.h"
+#include "seasons/startup.h"
+#include "ui/league_fixture_window.h"
+#include "ui/league_results_window.h"
+#include "ui/league_table_window.h"
+#include "ui/main_window.h"
+#include "ui/qt_text.h"
+#include "ui/teams_window.h"
+
+namespace quinteva::ui {
+
+void VentanaPrincipal::Equipos() {
+    auto* ventana = new VentanaEquiposQt(s_.carpetaTrabajo, temporada_.carpetaTemporada, s_.ajustes,
+                                         s_.dialogo, this);
+    connect(ventana, &VentanaEquiposQt::temporadaNueva, temporadaEtiqueta_, &QLabel::setText);
+    AbrirVentana(ventana);
+}
+
+void VentanaPrincipal::Clasificaciones() {
+    AbrirVentana(
+        new VentanaClasificacion(temporada_.carpetaTemporada, s_.ajustes, s_.dialogo, this));
+}
+
+void VentanaPrincipal::JornadasLiga() {
+    AbrirVentana(new VentanaJornadasLigaQt(temporada_.carpetaTemporada,
+                                           seasons::TemporadaDeCarpeta(temporada_.temporadaActual),
+                                           s_.ajustes, s_.dialogo, this));
+}
+
+void VentanaPrincipal::ResultadosLiga() {
+    std::optional<double> fecha;
+    if (!fechaJornada_.isEmpty()) {
+        try {
+            fecha = seasons::SerieDeFecha(S(fechaJornada_));
+        } catch (const std::exception&) {
+            fecha.reset();
+        }
+    }
+    auto* ventana =
+        new VentanaResultadosLigaQt(s_.carpetaTrabajo, temporada_.carpetaTemporada,
+                                    seasons::TemporadaDeCarpeta(temporada_.temporadaActual),
+                                    s_.ajustes, s_.dialogo, fecha, this);
+    connect(ventana, &VentanaResultadosLigaQt::resultadosGuardados, this,
+            &VentanaPrincipal::SeguirArchivosDeTemporada);
+    AbrirVentana(ventana);
+}
+
+void VentanaPrincipal::SeguirArchivosDeTemporada() {
+    try {
+        temporada_.jornadas = seasons::ListaJornadas(temporada_.carpetaTemporada);
+        base_->PonerJornadas(temporada_.jornadas);
+        const bool esta = std::find(temporada_.jornadas.begin(), temporada_.jornadas.end(),
+                                    comb_.jornada) != temporada_.jornadas.end();
+        if (esta) PonerPartidos(comb_.jornada);
+    } catch (const std::exception& e) {
+        Fallo(e);
+    }
+    Refrescar();
+}
+
+}  // namespace quinteva::ui
