@@ -1,10 +1,12 @@
 // Los mandatos de la ventana principal que abren las ventanas de la temporada: equipos, Jornadas
 // y resultados de Liga, clasificaciones.
+#include <QLabel>
 #include <algorithm>
 
 #include "seasons/league.h"
 #include "seasons/season_folder.h"
 #include "seasons/startup.h"
+#include "ui/base_page.h"
 #include "ui/league_fixture_window.h"
 #include "ui/league_results_window.h"
 #include "ui/league_table_window.h"
