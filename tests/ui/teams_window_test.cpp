@@ -2,8 +2,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QMenu>
-#include <QPointer>
 #include <QRadioButton>
 #include <QtTest>
 
@@ -45,15 +43,8 @@ void Teclear(QObject& ventana, const QString& campo, const QString& texto) {
 // El menú de una fila de la lista y su acción.
 void Menu(QObject& ventana, int division, int fila, const QString& accion) {
     auto* lista = Hijo<QListWidget>(ventana, QStringLiteral("ListaEquipos%1").arg(division));
-    emit lista->customContextMenuRequested(lista->visualItemRect(lista->item(fila)).center());
-    QMenu* menu = nullptr;
-    QTRY_VERIFY((menu = ventana.findChild<QMenu*>(QStringLiteral("MenuEquipo"))) != nullptr);
-    for (QAction* a : menu->actions()) {
-        if (a->text() == accion) a->trigger();
-    }
-    const QPointer<QMenu> cerrado(menu);
-    menu->close();
-    QTRY_VERIFY(cerrado.isNull());
+    pruebas::MenuDeContexto(ventana, lista, lista->visualItemRect(lista->item(fila)).center(),
+                            QStringLiteral("MenuEquipo"), accion);
 }
 
 }  // namespace

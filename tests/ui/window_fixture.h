@@ -4,6 +4,8 @@
 #include <QComboBox>
 #include <QHeaderView>
 #include <QLabel>
+#include <QMenu>
+#include <QPointer>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTableWidget>
@@ -118,6 +120,21 @@ inline std::vector<std::string> Dichos(const DialogoGuionado& dialogo, std::size
             textos.push_back(registro[i].texto);
     }
     return textos;
+}
+
+// El menú de contexto de un widget en un punto (como un clic derecho): espera el menú de ese
+// nombre, elige la acción de ese texto y espera a que el menú se borre.
+inline void MenuDeContexto(QObject& ventana, QWidget* widget, QPoint donde, const QString& menu,
+                           const QString& accion) {
+    emit widget->customContextMenuRequested(donde);
+    QMenu* abierto = nullptr;
+    QTRY_VERIFY((abierto = ventana.findChild<QMenu*>(menu)) != nullptr);
+    for (QAction* a : abierto->actions()) {
+        if (a->text() == accion) a->trigger();
+    }
+    const QPointer<QMenu> cerrado(abierto);
+    abierto->close();
+    QTRY_VERIFY(cerrado.isNull());
 }
 
 // Un clic en el botón de ese nombre.
