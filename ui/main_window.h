@@ -131,6 +131,8 @@ class VentanaPrincipal : public QMainWindow {
     // Tras guardar en las ventanas de la temporada: la lista de Jornadas y los partidos de la
     // Quiniela Base vuelven a leerse de los archivos.
     void SeguirArchivosDeTemporada();
+    // "Nueva Temporada" en "Equipos": la principal pasa a la temporada nueva, como al arrancar.
+    void TemporadaNueva(const QString& etiqueta);
     void Fallo(const std::exception& e);
     // "&Guardar..." y "G&uardar como" del motor, con el refresco y el manejo de errores comunes.
     using FlujoDeGuardar = bool (*)(engine::Combinacion&, const std::filesystem::path&,

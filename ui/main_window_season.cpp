@@ -19,7 +19,7 @@ namespace quinteva::ui {
 void VentanaPrincipal::Equipos() {
     auto* ventana = new VentanaEquiposQt(s_.carpetaTrabajo, temporada_.carpetaTemporada, s_.ajustes,
                                          s_.dialogo, this);
-    connect(ventana, &VentanaEquiposQt::temporadaNueva, temporadaEtiqueta_, &QLabel::setText);
+    connect(ventana, &VentanaEquiposQt::temporadaNueva, this, &VentanaPrincipal::TemporadaNueva);
     AbrirVentana(ventana);
 }
 
@@ -50,6 +50,16 @@ void VentanaPrincipal::ResultadosLiga() {
     connect(ventana, &VentanaResultadosLigaQt::resultadosGuardados, this,
             &VentanaPrincipal::SeguirArchivosDeTemporada);
     AbrirVentana(ventana);
+}
+
+void VentanaPrincipal::TemporadaNueva(const QString& etiqueta) {
+    temporadaEtiqueta_->setText(etiqueta);
+    try {
+        temporada_ = seasons::PrepararTemporada(s_.carpetaPrograma, s_.carpetaTrabajo, s_.ajustes);
+    } catch (const std::exception& e) {
+        Fallo(e);
+    }
+    SeguirArchivosDeTemporada();
 }
 
 void VentanaPrincipal::SeguirArchivosDeTemporada() {
