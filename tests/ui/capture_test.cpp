@@ -17,6 +17,8 @@
 #include "ui/boletos_notice.h"
 #include "ui/failure_report_window.h"
 #include "ui/json_file_window.h"
+#include "ui/league_fixture_window.h"
+#include "ui/league_results_window.h"
 #include "ui/league_table_window.h"
 #include "ui/located_columns_window.h"
 #include "ui/official_file_window.h"
@@ -141,6 +143,23 @@ class PruebaCapturas : public QObject {
         auto* ventana = v->findChild<ui::VentanaClasificacion*>();
         QVERIFY(ventana != nullptr);
         Capturar(*ventana, QStringLiteral("ventana_clasificacion"));
+    }
+
+    // "Jornadas de Liga" y los resultados de la Liga en la Jornada de la Quiniela elegida.
+    void VentanasDeLiga() {
+        pruebas::Instalacion inst;
+        auto v = inst.Ventana();
+        pruebas::ElegirJornada(*v, 12);
+        Hijo<QAction>(*v, "AccionJornadasLiga")->trigger();
+        auto* jornadas = v->findChild<ui::VentanaJornadasLigaQt*>();
+        QVERIFY(jornadas != nullptr);
+        Hijo<QComboBox>(*jornadas, "ListaJornada")->setCurrentIndex(11);
+        Capturar(*jornadas, QStringLiteral("ventana_jornadas_liga"));
+        jornadas->close();
+        Hijo<QAction>(*v, "AccionResultadosLiga")->trigger();
+        auto* resultados = v->findChild<ui::VentanaResultadosLigaQt*>();
+        QVERIFY(resultados != nullptr);
+        Capturar(*resultados, QStringLiteral("ventana_resultados_liga"));
     }
 
     // Cada ventana que se abre desde la página Boletos y los menús, sobre la Combinación dada.
