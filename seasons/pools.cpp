@@ -22,12 +22,7 @@ namespace {
 
 constexpr std::string_view kSiglo = "20";
 
-bool SoloCifras(std::string_view texto) {
-    return std::all_of(texto.begin(), texto.end(),
-                       [](char c) { return std::isdigit(static_cast<unsigned char>(c)) != 0; });
-}
-
-std::string Fecha(double serie) { return base::FormatoFecha(base::SerieAFecha(serie), "dd/MM/yy"); }
+std::string TextoFecha(double serie) { return base::FormatoFecha(base::SerieAFecha(serie), "dd/MM/yy"); }
 
 // Los registros de "Jquin.rar" de una Jornada con Siglo "20", uno por fila del boleto (desde
 // Partido 1), hasta quince.
@@ -89,7 +84,7 @@ void VentanaJornadasQuiniela::ElegirJornada(int jornada) {
             q.division};
         jornadasLiga_ = {q.jornadaDiv1 == 0 ? "" : std::to_string(q.jornadaDiv1),
                          q.jornadaDiv2 == 0 ? "" : std::to_string(q.jornadaDiv2)};
-        fecha_ = Fecha(q.fecha);
+        fecha_ = TextoFecha(q.fecha);
         existe_ = true;
     });
 }
@@ -266,7 +261,7 @@ void VentanaResultadosQuiniela::ElegirJornada(int jornada) {
         }
         rejilla_[static_cast<std::size_t>(q.partido - 1)] = {
             std::string(base::Recortar(q.local)), std::string(base::Recortar(q.visitante)), signo};
-        fecha_ = Fecha(q.fecha);
+        fecha_ = TextoFecha(q.fecha);
     });
 }
 

@@ -220,7 +220,7 @@ TEST(JornadasQuiniela, UnaJornadaQueExisteSeReescribeConSusSignos) {
 // anterior, con la misma Jornada).
 struct Resultados : Boleto {
     Resultados() {
-        auto v = Ventana();
+        auto v = VentanaBoleto();
         v.ElegirJornada(7);
         v.EscribirFecha("01/10/23");
         v.EscribirJornadaLiga(1, "8");
