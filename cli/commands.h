@@ -31,6 +31,8 @@ int ClasificacionCmd(const Argumentos& argumentos, std::ostream& salida);
 int RecalcularCmd(const Argumentos& argumentos, std::ostream& salida);
 int LigaJornada(const Argumentos& argumentos, std::ostream& salida);
 int LigaResultados(const Argumentos& argumentos, std::ostream& salida);
+int Quiniela(const Argumentos& argumentos, std::ostream& salida);
+int QuinielaResultados(const Argumentos& argumentos, std::ostream& salida);
 int Nueva(const Argumentos& argumentos, std::ostream& salida);
 int Info(const Argumentos& argumentos, std::ostream& salida);
 int GenerarCmd(const Argumentos& argumentos, std::ostream& salida);

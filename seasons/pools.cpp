@@ -22,7 +22,9 @@ namespace {
 
 constexpr std::string_view kSiglo = "20";
 
-std::string TextoFecha(double serie) { return base::FormatoFecha(base::SerieAFecha(serie), "dd/MM/yy"); }
+std::string TextoFecha(double serie) {
+    return base::FormatoFecha(base::SerieAFecha(serie), "dd/MM/yy");
+}
 
 // Los registros de "Jquin.rar" de una Jornada con Siglo "20", uno por fila del boleto (desde
 // Partido 1), hasta quince.
@@ -40,6 +42,12 @@ std::size_t PorPartido(const fs::path& carpetaTemporada, int jornada, Fila&& fil
 }
 
 }  // namespace
+
+std::vector<RegPartidoQuin> PartidosDeQuiniela(const fs::path& carpetaTemporada, int jornada) {
+    std::vector<RegPartidoQuin> partidos;
+    PorPartido(carpetaTemporada, jornada, [&](const RegPartidoQuin& q) { partidos.push_back(q); });
+    return partidos;
+}
 
 std::vector<std::string> OtrosEquipos(const fs::path& carpetaTemporada) {
     std::set<std::string, std::less<>> deDivision;

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "base/dialog.h"
+#include "seasons/record_files.h"
 
 namespace quinteva::seasons {
 
@@ -44,6 +45,10 @@ struct FilaBoleto {
     int division = 0;  // 0: sin partido, u "Otros Equipos"
     friend bool operator==(const FilaBoleto&, const FilaBoleto&) = default;
 };
+
+// Los registros de "Jquin.rar" de una Jornada (Siglo "20"), en el orden del archivo, hasta 15.
+std::vector<RegPartidoQuin> PartidosDeQuiniela(const std::filesystem::path& carpetaTemporada,
+                                               int jornada);
 
 // Los nombres de "Otros Equipos": los de los partidos de "Jquin.rar" que no son de ninguna
 // división de "Nomeq.rar", sin repetir y en orden.
