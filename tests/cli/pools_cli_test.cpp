@@ -40,7 +40,7 @@ TEST(CliQuiniela, LosQuincePartidosYSuColumna) {
     EXPECT_EQ(texto.salida.rfind("JORNADA 12,  Fecha 29/10/23\n1\t", 0), 0U) << texto.salida;
     const Salida falta = EjecutarCli("quiniela --jornada 69" + carpeta);
     EXPECT_EQ(falta.codigo, 1);
-    EXPECT_EQ(falta.errores, "No hay partidos de la Jornada 69\n");
+    EXPECT_EQ(falta.errores, "Error: No hay partidos de la Jornada 69\n");
 
     const std::string antes = Columna(trabajo.Ruta(), 12);
     const Salida sinPleno =
