@@ -11,6 +11,7 @@
 #include "base/text1252.h"
 #include "seasons/record_files.h"
 #include "seasons/season_folder.h"
+#include "seasons/teams.h"
 
 namespace quinteva::seasons {
 namespace fs = std::filesystem;
@@ -64,12 +65,7 @@ VentanaJornadasLiga::VentanaJornadasLiga(fs::path carpetaTemporada, std::string 
 void VentanaJornadasLiga::ElegirDivision(int division) {
     division_ = division;
     equipos_ = EquiposDeLaDivision(ajustes_, division);
-    lista_.clear();
-    base::ArchivoDe<RegEquipo> nomeq(carpetaTemporada_ / kNomeq);
-    for (std::int32_t n = 1; n <= nomeq.Cuenta(); ++n) {
-        const RegEquipo e = nomeq.Leer(n);
-        if (e.division == division) lista_.emplace_back(base::Recortar(e.nombre));
-    }
+    lista_ = NombresDeLaDivision(carpetaTemporada_, division);
     ElegirJornada(1);
 }
 

@@ -14,6 +14,7 @@
 #include "seasons/record_files.h"
 #include "seasons/season_folder.h"
 #include "seasons/startup.h"
+#include "seasons/teams.h"
 
 namespace quinteva::seasons {
 namespace fs = std::filesystem;
@@ -78,6 +79,11 @@ VentanaJornadasQuiniela::VentanaJornadasQuiniela(fs::path carpetaTemporada, std:
       cabecera_(std::move(cabecera)),
       dialogo_(dialogo),
       jornadas_(ListaJornadas(carpetaTemporada_)) {}
+
+std::vector<std::string> VentanaJornadasQuiniela::Lista(int division) const {
+    return division == kOtrosEquipos ? OtrosEquipos(carpetaTemporada_)
+                                     : NombresDeLaDivision(carpetaTemporada_, division);
+}
 
 void VentanaJornadasQuiniela::ElegirJornada(int jornada) {
     jornada_ = jornada;

@@ -63,6 +63,8 @@ class VentanaJornadasQuiniela {
                             base::Dialogo& dialogo);
 
     const std::string& Cabecera() const { return cabecera_; }
+    // La lista de equipos de una división (1 o 2) o de "Otros Equipos" (kOtrosEquipos).
+    std::vector<std::string> Lista(int division) const;
     // Las Jornadas del selector: las de "Jquin.rar" (de 1 a 70) y las nuevas que se guardan; se
     // puede elegir cualquiera de 1 a 70 para empezar una.
     const std::vector<int>& Jornadas() const { return jornadas_; }

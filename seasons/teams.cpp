@@ -91,6 +91,16 @@ std::uintmax_t Longitud(const fs::path& ruta) {
 
 }  // namespace
 
+std::vector<std::string> NombresDeLaDivision(const fs::path& carpetaTemporada, int division) {
+    std::vector<std::string> nombres;
+    const base::ArchivoDe<RegEquipo> nomeq(carpetaTemporada / kNomeq);
+    for (std::int32_t n = 1; n <= nomeq.Cuenta(); ++n) {
+        const RegEquipo e = nomeq.Leer(n);
+        if (e.division == division) nombres.emplace_back(base::Recortar(e.nombre));
+    }
+    return nombres;
+}
+
 std::string MsgDivisionCompleta(std::string_view numero) {
     return "Ya hay introducidos " + std::string(numero) + " Equipos.";
 }

@@ -70,6 +70,10 @@ std::string PreguntaModificarEquipo(std::string_view nombre);
 std::string PreguntaModificarValoracion(std::string_view nombre);
 std::string PreguntaEliminarEquipo(std::string_view nombre);
 
+// Los nombres de los equipos de una división, recortados, en el orden de "Nomeq.rar".
+std::vector<std::string> NombresDeLaDivision(const std::filesystem::path& carpetaTemporada,
+                                             int division);
+
 enum class ModoEquipos { Anadir, Modificar };
 
 // Lo que muestra la ventana de una división: sus equipos, ordenados, y el campo del número de

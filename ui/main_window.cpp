@@ -217,8 +217,9 @@ void VentanaPrincipal::CrearMenus() {
             &QAction::triggered, this, &VentanaPrincipal::Equipos);
     connect(Accion(archivo, QStringLiteral("Jornadas &Liga"), QStringLiteral("AccionJornadasLiga")),
             &QAction::triggered, this, &VentanaPrincipal::JornadasLiga);
-    Accion(archivo, QStringLiteral("Jornadas &Quiniela"), QStringLiteral("AccionJornadasQuiniela"),
-           false);
+    connect(Accion(archivo, QStringLiteral("Jornadas &Quiniela"),
+                   QStringLiteral("AccionJornadasQuiniela")),
+            &QAction::triggered, this, &VentanaPrincipal::JornadasQuiniela);
     archivo->addSeparator();
     for (std::size_t i = 0; i < recientes_.size(); ++i) {
         recientes_[i] = Accion(archivo, {}, QStringLiteral("AccionReciente%1").arg(i + 1));
@@ -250,8 +251,9 @@ void VentanaPrincipal::CrearMenus() {
     connect(Accion(resultados, QStringLiteral("De Jornadas de &Liga"),
                    QStringLiteral("AccionResultadosLiga")),
             &QAction::triggered, this, &VentanaPrincipal::ResultadosLiga);
-    Accion(resultados, QStringLiteral("De Jornadas de &Quinielas"),
-           QStringLiteral("AccionResultadosQuiniela"), false);
+    connect(Accion(resultados, QStringLiteral("De Jornadas de &Quinielas"),
+                   QStringLiteral("AccionResultadosQuiniela")),
+            &QAction::triggered, this, &VentanaPrincipal::ResultadosQuiniela);
     Accion(resultados, QStringLiteral("Actualización por Internet"),
            QStringLiteral("AccionActualizacionInternet"), false);
     connect(

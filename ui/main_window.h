@@ -92,6 +92,10 @@ class VentanaPrincipal : public QMainWindow {
     void JornadasLiga();
     // "De Jornadas de &Liga": los goles de cada partido.
     void ResultadosLiga();
+    // "Jornadas &Quiniela": el boleto de cada Jornada.
+    void JornadasQuiniela();
+    // "De Jornadas de &Quinielas": la columna ganadora de cada Jornada.
+    void ResultadosQuiniela();
     void AcercaDe();
 
     // La página Boletos: el conjunto que se juega, el ajuste y los mandatos de salida.

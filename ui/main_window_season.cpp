@@ -1,5 +1,5 @@
 // Los mandatos de la ventana principal que abren las ventanas de la temporada: equipos, Jornadas
-// y resultados de Liga, clasificaciones.
+// y resultados de Liga y de Quinielas, clasificaciones.
 #include <QLabel>
 #include <algorithm>
 
@@ -11,6 +11,8 @@
 #include "ui/league_results_window.h"
 #include "ui/league_table_window.h"
 #include "ui/main_window.h"
+#include "ui/pools_results_window.h"
+#include "ui/pools_slip_window.h"
 #include "ui/qt_text.h"
 #include "ui/teams_window.h"
 
@@ -48,6 +50,24 @@ void VentanaPrincipal::ResultadosLiga() {
                                     seasons::TemporadaDeCarpeta(temporada_.temporadaActual),
                                     s_.ajustes, s_.dialogo, fecha, this);
     connect(ventana, &VentanaResultadosLigaQt::resultadosGuardados, this,
+            &VentanaPrincipal::SeguirArchivosDeTemporada);
+    AbrirVentana(ventana);
+}
+
+void VentanaPrincipal::JornadasQuiniela() {
+    auto* ventana = new VentanaJornadasQuinielaQt(
+        temporada_.carpetaTemporada,
+        "Temporada " + seasons::TemporadaDeCarpeta(temporada_.temporadaActual), s_.dialogo, this);
+    connect(ventana, &VentanaJornadasQuinielaQt::jornadaNueva, this,
+            &VentanaPrincipal::SeguirArchivosDeTemporada);
+    AbrirVentana(ventana);
+}
+
+void VentanaPrincipal::ResultadosQuiniela() {
+    auto* ventana = new VentanaResultadosQuinielaQt(
+        temporada_.carpetaTemporada, seasons::TemporadaDeCarpeta(temporada_.temporadaActual),
+        s_.dialogo, this);
+    connect(ventana, &VentanaResultadosQuinielaQt::resultadosGuardados, this,
             &VentanaPrincipal::SeguirArchivosDeTemporada);
     AbrirVentana(ventana);
 }
