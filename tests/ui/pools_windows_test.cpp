@@ -1,0 +1,157 @@
+#include <QAction>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QTableWidget>
+#include <QtTest>
+
+#include "base/record_files.h"
+#include "base/text1252.h"
+#include "seasons/league.h"
+#include "seasons/pools.h"
+#include "seasons/record_files.h"
+#include "seasons/season_folder.h"
+#include "tests/ui/window_fixture.h"
+#include "ui/pools_results_window.h"
+#include "ui/pools_slip_window.h"
+
+using namespace quinteva;
+using pruebas::Hijo;
+namespace fs = std::filesystem;
+
+namespace {
+
+template <typename Ventana>
+Ventana* Abrir(ui::VentanaPrincipal& v, const char* accion) {
+    Hijo<QAction>(v, QString::fromLatin1(accion))->trigger();
+    auto* ventana = v.findChild<Ventana*>();
+    if (ventana == nullptr || !QTest::qWaitForWindowExposed(ventana)) qFatal("No se abre");
+    return ventana;
+}
+
+void Agregar(QObject& ventana, int fila) {
+    auto* lista = Hijo<QListWidget>(ventana, QStringLiteral("ListaEquipos"));
+    pruebas::MenuDeContexto(ventana, lista, lista->visualItemRect(lista->item(fila)).center(),
+                            QStringLiteral("MenuEquipo"), QStringLiteral("Agregar"));
+}
+
+void Teclear(QObject& ventana, const char* campo, const QString& texto) {
+    auto* c = Hijo<QLineEdit>(ventana, QString::fromLatin1(campo));
+    c->setFocus();
+    QTest::keyClicks(c, texto);
+}
+
+QString Celda(QTableWidget* rejilla, int fila, int columna) {
+    return rejilla->item(fila, columna)->text();
+}
+
+std::vector<seasons::RegPartidoQuin> Quiniela(const fs::path& carpeta, int jornada) {
+    return seasons::PartidosDeQuiniela(carpeta, jornada);
+}
+
+}  // namespace
+
+// "Jornadas de Quinielas" y sus resultados desde los menús, sobre la temporada de demostración.
+class PruebaVentanasQuinielas : public QObject {
+    Q_OBJECT
+
+  private slots:
+    void UnBoletoNuevoLlegaALaPrincipal() {
+        pruebas::Instalacion inst;
+        auto v = inst.Ventana();
+        const auto carpeta = seasons::CarpetaTemporadaEnCurso(inst.trabajo.Ruta());
+        auto* boleto = Abrir<ui::VentanaJornadasQuinielaQt>(*v, "AccionJornadasQuiniela");
+        QCOMPARE(pruebas::TextoDe(*boleto, "EtiquetaCabecera"), QStringLiteral("Temporada 23/24"));
+        auto* jornada = Hijo<QComboBox>(*boleto, QStringLiteral("ListaJornada"));
+        QVERIFY(jornada->count() > 10);
+        auto* rejilla = Hijo<QTableWidget>(*boleto, QStringLiteral("RejillaPartidos"));
+        QCOMPARE(rejilla->rowCount(), 15);
+
+        // Una Jornada que no existe: sin fecha la lista no agrega.
+        jornada->setFocus();
+        jornada->lineEdit()->selectAll();
+        QTest::keyClicks(jornada->lineEdit(), QStringLiteral("60"));
+        QTest::keyClick(jornada->lineEdit(), Qt::Key_Return);
+        Agregar(*boleto, 0);
+        QCOMPARE(inst.dialogo.Textos().back(), std::string(seasons::kMsgAntesDeEquipos));
+        Teclear(*boleto, "CampoFecha", QStringLiteral("04/05/24"));
+        Agregar(*boleto, 0);
+        QCOMPARE(inst.dialogo.Textos().back(), std::string(seasons::kMsgFaltaJornadaLiga1));
+        Teclear(*boleto, "CampoJornada1", QStringLiteral("3x4"));
+        QCOMPARE(inst.dialogo.Textos().back(), std::string(seasons::kMsgSoloNumeroJornadaLiga));
+        QCOMPARE(Hijo<QLineEdit>(*boleto, QStringLiteral("CampoJornada1"))->text(),
+                 QStringLiteral("34"));
+        for (int i = 0; i < 20; ++i) Agregar(*boleto, i);
+        Hijo<QComboBox>(*boleto, QStringLiteral("ListaDivision"))->setCurrentIndex(1);
+        Teclear(*boleto, "CampoJornada2", QStringLiteral("38"));
+        for (int i = 0; i < 8; ++i) Agregar(*boleto, i);
+        // Dos de fuera de las divisiones, escritos.
+        Hijo<QComboBox>(*boleto, QStringLiteral("ListaDivision"))->setCurrentIndex(2);
+        for (const char* otro : {"Real Union", "Ourense"}) {
+            Teclear(*boleto, "CampoOtroEquipo", QString::fromLatin1(otro));
+            QTest::keyClick(Hijo<QLineEdit>(*boleto, QStringLiteral("CampoOtroEquipo")),
+                            Qt::Key_Return);
+        }
+        QCOMPARE(Celda(rejilla, 14, 1), QStringLiteral("Ourense"));
+        QCOMPARE(Celda(rejilla, 13, 2), QStringLiteral("2"));
+        QCOMPARE(Celda(rejilla, 14, 2), QString());
+
+        pruebas::Pulsar(*boleto, "BotonGuardar");
+        const auto partidos = Quiniela(carpeta, 60);
+        QCOMPARE(partidos.size(), std::size_t{15});
+        QCOMPARE(partidos[0].jornadaDiv1, 34);
+        QCOMPARE(partidos[12].jornadaDiv2, 38);
+        QCOMPARE(base::Recortar(partidos[14].local), std::string("Real Union"));
+        QCOMPARE(Celda(rejilla, 0, 0), QString());
+        QVERIFY(jornada->findText(QStringLiteral("60")) >= 0);
+        // La principal la ofrece y, elegida, pone sus partidos en la Quiniela Base.
+        auto* lista = Hijo<QComboBox>(*v, QStringLiteral("ListaJornadas"));
+        QVERIFY(lista->findData(60) >= 0);
+        pruebas::Pulsar(*boleto, "BotonCerrar");
+        pruebas::ElegirJornada(*v, 60);
+        QCOMPARE(pruebas::TextoDe(*v, "FechaJornada"), QStringLiteral("04/05/24"));
+        auto* base = Hijo<QTableWidget>(*v, QStringLiteral("RejillaBase"));
+        QCOMPARE(base->item(14, 1)->text(), QStringLiteral("Real Union - Ourense"));
+    }
+
+    void LaColumnaGanadoraConSuPleno() {
+        pruebas::Instalacion inst;
+        auto v = inst.Ventana();
+        const auto carpeta = seasons::CarpetaTemporadaEnCurso(inst.trabajo.Ruta());
+        auto* resultados = Abrir<ui::VentanaResultadosQuinielaQt>(*v, "AccionResultadosQuiniela");
+        auto* jornada = Hijo<QComboBox>(*resultados, QStringLiteral("ListaJornada"));
+        auto* rejilla = Hijo<QTableWidget>(*resultados, QStringLiteral("RejillaPartidos"));
+        pruebas::Pulsar(*resultados, "BotonGuardar");
+        QCOMPARE(inst.dialogo.Textos().back(),
+                 std::string(seasons::kMsgSeleccionarJornadaQuiniela));
+        jornada->setCurrentIndex(jornada->findText(QStringLiteral("12")));
+        QCOMPARE(pruebas::TextoDe(*resultados, "EtiquetaFecha"), QStringLiteral("Fecha: 29/10/23"));
+        const auto antes = Quiniela(carpeta, 12);
+        QCOMPARE(Celda(rejilla, 0, 0).toStdString(), std::string(base::Recortar(antes[0].local)));
+        QVERIFY(Celda(rejilla, 14, 2).contains(QLatin1Char('-')));
+
+        // Con el teclado: una x vale X; un 3 no se toma; el Pleno con su guion.
+        rejilla->setFocus();
+        rejilla->setCurrentCell(0, 2);
+        QTest::keyClick(rejilla, 'x');
+        QTest::keyClick(rejilla, Qt::Key_Return);
+        QCOMPARE(Celda(rejilla, 0, 2), QStringLiteral("X"));
+        const QString segundo = Celda(rejilla, 1, 2);
+        rejilla->setCurrentCell(1, 2);
+        QTest::keyClick(rejilla, '3');
+        QTest::keyClick(rejilla, Qt::Key_Return);
+        QCOMPARE(Celda(rejilla, 1, 2), segundo);
+        rejilla->setCurrentCell(14, 2);
+        QTest::keyClicks(rejilla, QStringLiteral("m-1"));
+        QTest::keyClick(rejilla, Qt::Key_Return);
+        QCOMPARE(Celda(rejilla, 14, 2), QStringLiteral("M-1"));
+        pruebas::Pulsar(*resultados, "BotonGuardar");
+        const auto despues = Quiniela(carpeta, 12);
+        QCOMPARE(despues[0].signo, std::string("X"));
+        QCOMPARE(despues[14].signo, std::string("N"));
+    }
+};
+
+QTEST_MAIN(PruebaVentanasQuinielas)
+#include "pools_windows_test.moc"
