@@ -23,6 +23,8 @@
 #include "ui/located_columns_window.h"
 #include "ui/official_file_window.h"
 #include "ui/options_window.h"
+#include "ui/pools_results_window.h"
+#include "ui/pools_slip_window.h"
 #include "ui/remove_columns_window.h"
 #include "ui/report_windows.h"
 #include "ui/spanish_texts.h"
@@ -160,6 +162,26 @@ class PruebaCapturas : public QObject {
         auto* resultados = v->findChild<ui::VentanaResultadosLigaQt*>();
         QVERIFY(resultados != nullptr);
         Capturar(*resultados, QStringLiteral("ventana_resultados_liga"));
+    }
+
+    // "Jornadas de Quinielas" y sus resultados en la Jornada 12 de la demostración.
+    void VentanasDeQuinielas() {
+        pruebas::Instalacion inst;
+        auto v = inst.Ventana();
+        Hijo<QAction>(*v, "AccionJornadasQuiniela")->trigger();
+        auto* boleto = v->findChild<ui::VentanaJornadasQuinielaQt*>();
+        QVERIFY(boleto != nullptr);
+        auto* jornada = Hijo<QComboBox>(*boleto, "ListaJornada");
+        jornada->setCurrentIndex(jornada->findText(QStringLiteral("12")));
+        emit jornada->activated(jornada->currentIndex());
+        Capturar(*boleto, QStringLiteral("ventana_jornadas_quiniela"));
+        boleto->close();
+        Hijo<QAction>(*v, "AccionResultadosQuiniela")->trigger();
+        auto* resultados = v->findChild<ui::VentanaResultadosQuinielaQt*>();
+        QVERIFY(resultados != nullptr);
+        auto* jornadaResultados = Hijo<QComboBox>(*resultados, "ListaJornada");
+        jornadaResultados->setCurrentIndex(jornadaResultados->findText(QStringLiteral("12")));
+        Capturar(*resultados, QStringLiteral("ventana_resultados_quiniela"));
     }
 
     // Cada ventana que se abre desde la página Boletos y los menús, sobre la Combinación dada.
