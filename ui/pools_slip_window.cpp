@@ -2,6 +2,7 @@
 
 #include <QComboBox>
 #include <QHBoxLayout>
+#include <QHeaderView>
 #include <QIntValidator>
 #include <QKeyEvent>
 #include <QLabel>
@@ -72,6 +73,7 @@ VentanaJornadasQuinielaQt::VentanaJornadasQuinielaQt(const std::filesystem::path
     rejilla_ = RejillaPartidos(
         this, {QStringLiteral("Local"), QStringLiteral("Visitante"), QStringLiteral("Div.")});
     rejilla_->setRowCount(seasons::kPartidosBoleto);
+    rejilla_->horizontalHeader()->setSectionResizeMode(2, QHeaderView::ResizeToContents);
     rejilla_->setContextMenuPolicy(Qt::CustomContextMenu);
     centro->addWidget(rejilla_, 2);
     auto* derecha = new QVBoxLayout;

@@ -225,6 +225,21 @@ TEST(ResultadosLiga, ElPlenoLlevaLaLetraDelParDeGoles) {
     EXPECT_EQ(r.Columna(1), "X             P");
 }
 
+// Los bytes de "Jlig2.rar" tras guardar: solo cambian los dos goles (desplazamientos 48 y 49) de
+// cada partido guardado.
+TEST(ResultadosLiga, LosBytesDeLaLigaTrasGuardar) {
+    Resultados r;
+    std::string esperado = Leer(r.carpeta / kJlig2);
+    r.Teclear("2130");
+    ASSERT_TRUE(r.ventana.Guardar());
+    esperado[48] = 2;
+    esperado[49] = 1;
+    esperado[51 + 48] = 3;
+    esperado[51 + 49] = 0;
+    EXPECT_EQ(Leer(r.carpeta / kJlig2), esperado);
+    EXPECT_EQ(Leer(r.carpeta / "trabajo" / kHist), esperado.substr(0, 2 * 51));
+}
+
 TEST(ResultadosLiga, GuardarOtraVezSobreescribeLaHistoria) {
     Resultados r;
     r.Teclear("2130");
