@@ -21,6 +21,9 @@ int LeerEntero(const base::Ajustes& ajustes, std::string_view clave) {
 
 void Rellenar(FichaEquipo& ficha, const seasons::RegEquipo& equipo, int equipos) {
     ficha.encontrado = true;
+    ficha.posicion = equipo.posicion;
+    ficha.puntos = equipo.puntos;
+    ficha.valoracion = equipo.valoracion;
     const auto puntos = static_cast<std::size_t>(
         std::clamp(2 * equipos - 2, 0, static_cast<int>(seasons::RegEquipo::kJornadas)));
     ficha.puestos.assign(equipo.posicionJornada.begin(),

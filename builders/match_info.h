@@ -39,6 +39,10 @@ struct PartidoReciente {
 struct FichaEquipo {
     std::string nombre;
     bool encontrado = false;  // está en "Nomeq.rar"
+    // Su puesto y sus puntos en la clasificación, y su Valoracion.
+    int posicion = 0;
+    int puntos = 0;
+    int valoracion = 0;
     // Puesto tras cada Jornada, de la 1 a la 2 x equipos - 2; 0 es un punto sin línea.
     std::vector<int> puestos;
     // Los últimos partidos jugados de su división (hasta "MaxJor"), el más reciente primero.

@@ -39,6 +39,15 @@ void Celda(QTableWidget* r, int fila, int columna, const QString& texto, bool de
     r->setItem(fila, columna, item);
 }
 
+// El puesto, los puntos y la Valoracion de un equipo que está en "Nomeq.rar".
+QString Datos(const builders::FichaEquipo& ficha) {
+    if (!ficha.encontrado) return {};
+    return QStringLiteral("%1º, %2 ptos., Valoración %3")
+        .arg(ficha.posicion)
+        .arg(ficha.puntos)
+        .arg(ficha.valoracion);
+}
+
 void Recientes(QTableWidget* r, const builders::FichaEquipo& ficha) {
     r->setRowCount(static_cast<int>(ficha.recientes.size()));
     int fila = 0;
@@ -123,6 +132,14 @@ PanelInfo::PanelInfo(QWidget* madre) : QWidget(madre) {
         nombres->addWidget(etiqueta);
     }
     caja->addLayout(nombres);
+    auto* datos = new QHBoxLayout;
+    datosLocal_ = new QLabel(this);
+    datosLocal_->setObjectName(QStringLiteral("InfoDatosLocal"));
+    datosVisitante_ = new QLabel(this);
+    datosVisitante_->setObjectName(QStringLiteral("InfoDatosVisitante"));
+    datos->addWidget(datosLocal_);
+    datos->addWidget(datosVisitante_);
+    caja->addLayout(datos);
     grafico_ = new GraficoPuestos(this);
     caja->addWidget(grafico_, 2);
     const QStringList recientes = Cabeceras(builders::kCabeceraRecientes);
@@ -148,6 +165,8 @@ PanelInfo::PanelInfo(QWidget* madre) : QWidget(madre) {
 void PanelInfo::Mostrar(const builders::InfoPartido& info) {
     local_->setText(Q(info.local.nombre));
     visitante_->setText(Q(info.visitante.nombre));
+    datosLocal_->setText(Datos(info.local));
+    datosVisitante_->setText(Datos(info.visitante));
     grafico_->Mostrar(info);
     Recientes(recientesLocal_, info.local);
     Recientes(recientesVisitante_, info.visitante);

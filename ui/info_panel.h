@@ -38,6 +38,8 @@ class PanelInfo : public QWidget {
   private:
     QLabel* local_;
     QLabel* visitante_;
+    QLabel* datosLocal_;
+    QLabel* datosVisitante_;
     GraficoPuestos* grafico_;
     QTableWidget* recientesLocal_;
     QTableWidget* recientesVisitante_;

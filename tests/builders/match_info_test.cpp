@@ -24,6 +24,7 @@ seasons::RegEquipo Equipo(std::string nombre, int division, int posicion, int pu
     e.puntos = puntos;
     e.puntosCasa = puntos - 1;
     e.puntosFuera = 1;
+    e.valoracion = 10 * posicion;
     for (std::size_t j = 0; j < 6; ++j) e.posicionJornada[j] = posicion + static_cast<int>(j);
     return e;
 }
@@ -71,6 +72,10 @@ TEST(Info, LosDosEquiposSusPuestosYSusUltimosPartidos) {
     EXPECT_EQ(info.equipos, 4);
     EXPECT_EQ(info.local.nombre, "Betis");
     EXPECT_TRUE(info.local.encontrado);
+    EXPECT_EQ(info.local.posicion, 2);
+    EXPECT_EQ(info.local.puntos, 6);
+    EXPECT_EQ(info.local.valoracion, 20);
+    EXPECT_EQ(info.visitante.valoracion, 10);
     // Hasta 2 x 4 - 2 = 6 Jornadas.
     EXPECT_EQ(info.local.puestos, (std::vector<int>{2, 3, 4, 5, 6, 7}));
     EXPECT_EQ(info.visitante.puestos.size(), 6U);

@@ -97,6 +97,8 @@ class PruebaVentanaPrincipal : public QObject {
         const auto equipos = rejilla->item(0, 1)->text().split(QStringLiteral(" - "));
         QCOMPARE(pruebas::TextoDe(*v, "InfoLocal"), equipos[0]);
         QCOMPARE(pruebas::TextoDe(*v, "InfoVisitante"), equipos[1]);
+        QVERIFY(
+            pruebas::TextoDe(*v, "InfoDatosLocal").contains(QStringLiteral(" ptos., Valoración ")));
         QVERIFY(Hijo<QTableWidget>(*v, "RecientesLocal")->rowCount() > 0);
         QCOMPARE(Hijo<QTableWidget>(*v, "Clasificacion")->rowCount(), 20);
     }
