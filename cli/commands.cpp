@@ -63,6 +63,12 @@ std::span<const Subcomando> Subcomandos() {
          "dejarla en blanco; luego la clasificación.",
          {{"division", "jornada", "goles"}, {}},
          &LigaResultados},
+        {"depurar-liga",
+         "depurar-liga [--carpeta DIR]",
+         "DepurarLiga: \"Jlig2.rar\" se queda con los partidos de la temporada en curso, y su "
+         "copia en \"Jlig2.bak\".",
+         {},
+         &DepurarLigaCmd},
         {"quiniela",
          "quiniela --jornada N [--json]",
          "Los partidos de una Jornada de Quinielas de \"Jquin.rar\", con su fecha y sus signos.",

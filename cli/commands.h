@@ -31,6 +31,7 @@ int ClasificacionCmd(const Argumentos& argumentos, std::ostream& salida);
 int RecalcularCmd(const Argumentos& argumentos, std::ostream& salida);
 int LigaJornada(const Argumentos& argumentos, std::ostream& salida);
 int LigaResultados(const Argumentos& argumentos, std::ostream& salida);
+int DepurarLigaCmd(const Argumentos& argumentos, std::ostream& salida);
 int Quiniela(const Argumentos& argumentos, std::ostream& salida);
 int QuinielaResultados(const Argumentos& argumentos, std::ostream& salida);
 int Nueva(const Argumentos& argumentos, std::ostream& salida);

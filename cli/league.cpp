@@ -11,6 +11,7 @@
 #include "cli/commands.h"
 #include "cli/json_output.h"
 #include "seasons/league.h"
+#include "seasons/league_cleanup.h"
 #include "seasons/league_results.h"
 #include "seasons/league_table.h"
 #include "seasons/season_folder.h"
@@ -140,6 +141,15 @@ int LigaResultados(const Argumentos& argumentos, std::ostream& salida) {
     if (!v.Guardar()) return 1;
     salida << "Resultados de la Jornada " << jornada << " de " << division
            << "ª División guardados\n";
+    return 0;
+}
+
+int DepurarLigaCmd(const Argumentos& argumentos, std::ostream& salida) {
+    argumentos.ExigirPosicionales(0, "depurar-liga");
+    const auto carpeta = seasons::CarpetaTemporadaEnCurso(argumentos.CarpetaTrabajo());
+    const int quitados =
+        seasons::DepurarLiga(carpeta, seasons::TemporadaDeCarpeta(carpeta.filename().string()));
+    salida << "Partidos de otras temporadas quitados de \"Jlig2.rar\": " << quitados << '\n';
     return 0;
 }
 

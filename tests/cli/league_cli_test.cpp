@@ -124,6 +124,9 @@ TEST(CliLigaResultados, GuardaLosGolesYLaClasificacion) {
     base::ArchivoDe<seasons::RegPartidoLiga> liga(temporada / seasons::kJlig2);
     EXPECT_EQ(liga.Leer(1).golesLocal, 3);
     EXPECT_EQ(liga.Leer(1).golesVisitante, 1);
+    const Salida depurar = EjecutarCli("depurar-liga" + carpeta);
+    EXPECT_EQ(depurar.salida, "Partidos de otras temporadas quitados de \"Jlig2.rar\": 0\n");
+    EXPECT_EQ(Leer(temporada / seasons::kJlig2Bak), Leer(temporada / seasons::kJlig2));
     const Salida tabla = EjecutarCli("clasificacion --division 1 --json" + carpeta);
     EXPECT_EQ(tabla.salida.rfind("[{\"Posicion\": 1, \"Nombre\": \"Girona\", \"Puntos\": 3, "
                                  "\"Jugados\": 1",
