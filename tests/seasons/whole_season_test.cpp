@@ -33,7 +33,7 @@ using pruebas::CarpetaTemporal;
 using pruebas::DialogoGuionado;
 
 constexpr int kEquipos = 6;
-constexpr int kJornadas = 2 * (kEquipos - 1);
+constexpr int kJornadasLiga = 2 * (kEquipos - 1);
 const std::array<std::string, kEquipos> kNombres = {"Alcorcón",  "Badajoz", "Cartagena",
                                                     "Deportivo", "Écija",   "Ferrol"};
 
@@ -133,8 +133,8 @@ struct Temporada {
     void MeterCalendario() {
         VentanaJornadasLiga v(carpeta, "24/25", ajustes, dialogo);
         v.ElegirDivision(1);
-        ASSERT_EQ(v.Jornadas(), kJornadas);
-        for (int j = 1; j <= kJornadas; ++j) {
+        ASSERT_EQ(v.Jornadas(), kJornadasLiga);
+        for (int j = 1; j <= kJornadasLiga; ++j) {
             ASSERT_EQ(v.Jornada(), j);
             for (const Partido& p : calendario[static_cast<std::size_t>(j - 1)]) {
                 ASSERT_TRUE(v.Agregar(kNombres[static_cast<std::size_t>(p.local)]));
@@ -190,7 +190,7 @@ TEST(TemporadaEntera, CadaClasificacionComoLaCuentaLaPrueba) {
     std::map<std::string, Cifras> cuenta;
     VentanaResultadosLiga resultados(t.trabajo.Ruta(), t.carpeta, "24/25", t.ajustes, t.dialogo);
     resultados.ElegirDivision(1);
-    for (int j = 1; j <= kJornadas; ++j) {
+    for (int j = 1; j <= kJornadasLiga; ++j) {
         resultados.ElegirJornada(j);
         for (Partido& p : t.calendario[static_cast<std::size_t>(j - 1)]) {
             p.golesLocal = gol(azar);
@@ -244,10 +244,10 @@ TEST(TemporadaEntera, CadaClasificacionComoLaCuentaLaPrueba) {
     }
 
     // La última Jornada guardada otra vez se suma otra vez; "Recalcular" lo arregla.
-    resultados.ElegirJornada(kJornadas);
+    resultados.ElegirJornada(kJornadasLiga);
     ASSERT_TRUE(resultados.Guardar());
     const std::string& alguno = kNombres[0];
-    EXPECT_EQ(Equipos(t.carpeta).at(alguno).jugados, kJornadas + 1);
+    EXPECT_EQ(Equipos(t.carpeta).at(alguno).jugados, kJornadasLiga + 1);
     t.dialogo.Responder(Respuesta::Si);
     ASSERT_TRUE(Recalcular(t.carpeta, 1, t.ajustes, t.dialogo));
     EXPECT_TRUE(cuenta[alguno] == Equipos(t.carpeta).at(alguno));
