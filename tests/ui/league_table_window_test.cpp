@@ -14,13 +14,6 @@ using pruebas::Hijo;
 
 namespace {
 
-ui::VentanaClasificacion* AbrirClasificacion(ui::VentanaPrincipal& v) {
-    Hijo<QAction>(v, QStringLiteral("AccionClasificaciones"))->trigger();
-    auto* ventana = v.findChild<ui::VentanaClasificacion*>();
-    if (ventana == nullptr || !QTest::qWaitForWindowExposed(ventana)) qFatal("No se abre");
-    return ventana;
-}
-
 QStringList Fila(QTableWidget* tabla, int fila) {
     QStringList celdas;
     for (int c = 0; c < tabla->columnCount(); ++c) celdas << tabla->item(fila, c)->text();
@@ -38,7 +31,8 @@ class PruebaVentanaClasificacion : public QObject {
     void LasDosDivisionesConSusColores() {
         pruebas::Instalacion inst;
         auto v = inst.Ventana();
-        auto* ventana = AbrirClasificacion(*v);
+        auto* ventana =
+            pruebas::AbrirDesdeMenu<ui::VentanaClasificacion>(*v, "AccionClasificaciones");
         auto* tabla = Hijo<QTableWidget>(*ventana, QStringLiteral("TablaClasificacion"));
         QCOMPARE(tabla->rowCount(), 20);
         QCOMPARE(tabla->horizontalHeaderItem(2)->text(), QStringLiteral("Ptos."));
@@ -60,7 +54,8 @@ class PruebaVentanaClasificacion : public QObject {
     void RecalcularPreguntaYRehace() {
         pruebas::Instalacion inst;
         auto v = inst.Ventana();
-        auto* ventana = AbrirClasificacion(*v);
+        auto* ventana =
+            pruebas::AbrirDesdeMenu<ui::VentanaClasificacion>(*v, "AccionClasificaciones");
         auto* tabla = Hijo<QTableWidget>(*ventana, QStringLiteral("TablaClasificacion"));
         const QStringList antes = Fila(tabla, 0);
         inst.dialogo.Responder(Respuesta::No).Responder(Respuesta::Si);

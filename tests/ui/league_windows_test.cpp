@@ -24,17 +24,9 @@ namespace fs = std::filesystem;
 
 namespace {
 
-template <typename Ventana>
-Ventana* Abrir(ui::VentanaPrincipal& v, const char* accion) {
-    Hijo<QAction>(v, QString::fromLatin1(accion))->trigger();
-    auto* ventana = v.findChild<Ventana*>();
-    if (ventana == nullptr || !QTest::qWaitForWindowExposed(ventana)) qFatal("No se abre");
-    return ventana;
-}
-
 // Una temporada 24/25 recién creada en "Equipos", con los equipos de la de demostración.
 void TemporadaNueva(pruebas::Instalacion& inst, ui::VentanaPrincipal& v) {
-    auto* equipos = Abrir<ui::VentanaEquiposQt>(v, "AccionEquipos");
+    auto* equipos = pruebas::AbrirDesdeMenu<ui::VentanaEquiposQt>(v, "AccionEquipos");
     inst.dialogo.Responder(Respuesta::Aceptar)
         .Responder(std::optional<std::string>("24/25"))
         .Responder(std::optional<std::string>("20"))
@@ -69,7 +61,8 @@ class PruebaVentanasLiga : public QObject {
         TemporadaNueva(inst, *v);
         const fs::path carpeta = inst.trabajo / "Temporada2425";
 
-        auto* jornadas = Abrir<ui::VentanaJornadasLigaQt>(*v, "AccionJornadasLiga");
+        auto* jornadas =
+            pruebas::AbrirDesdeMenu<ui::VentanaJornadasLigaQt>(*v, "AccionJornadasLiga");
         auto* selector = Hijo<QComboBox>(*jornadas, QStringLiteral("ListaJornada"));
         QCOMPARE(selector->count(), 38);
         auto* rejilla = Hijo<QTableWidget>(*jornadas, QStringLiteral("RejillaPartidos"));
@@ -90,12 +83,9 @@ class PruebaVentanasLiga : public QObject {
         QStringList orden;
         for (int i = 0; i < lista->count(); ++i) {
             orden << lista->item(i)->text();
-            pruebas::MenuDeContexto(*jornadas, lista,
-                                    lista->visualItemRect(lista->item(i)).center(),
-                                    QStringLiteral("MenuEquipo"), QStringLiteral("Agregar"));
+            pruebas::AgregarDeLaLista(*jornadas, i);
         }
-        pruebas::MenuDeContexto(*jornadas, lista, lista->visualItemRect(lista->item(3)).center(),
-                                QStringLiteral("MenuEquipo"), QStringLiteral("Agregar"));
+        pruebas::AgregarDeLaLista(*jornadas, 3);
         QCOMPARE(inst.dialogo.Textos().back(), std::string(seasons::kMsgEquipoYaIntroducido));
         QCOMPARE(rejilla->currentRow(), 1);
         QCOMPARE(rejilla->currentColumn(), 1);
@@ -123,7 +113,8 @@ class PruebaVentanasLiga : public QObject {
         QCOMPARE(fecha->text(), QString());
         pruebas::Pulsar(*jornadas, "BotonCerrar");
 
-        auto* resultados = Abrir<ui::VentanaResultadosLigaQt>(*v, "AccionResultadosLiga");
+        auto* resultados =
+            pruebas::AbrirDesdeMenu<ui::VentanaResultadosLigaQt>(*v, "AccionResultadosLiga");
         auto* goles = Hijo<QTableWidget>(*resultados, QStringLiteral("RejillaPartidos"));
         auto* guardar = Hijo<QPushButton>(*resultados, QStringLiteral("BotonGuardar"));
         QCOMPARE(Hijo<QComboBox>(*resultados, QStringLiteral("ListaJornada"))->currentIndex(), 0);
@@ -166,7 +157,8 @@ class PruebaVentanasLiga : public QObject {
         auto v = inst.Ventana();
         pruebas::ElegirJornada(*v, 12);
         const QString fecha = pruebas::TextoDe(*v, "FechaJornada");
-        auto* resultados = Abrir<ui::VentanaResultadosLigaQt>(*v, "AccionResultadosLiga");
+        auto* resultados =
+            pruebas::AbrirDesdeMenu<ui::VentanaResultadosLigaQt>(*v, "AccionResultadosLiga");
         const int jornada =
             Hijo<QComboBox>(*resultados, QStringLiteral("ListaJornada"))->currentIndex() + 1;
         const auto carpeta = seasons::CarpetaTemporadaEnCurso(inst.trabajo.Ruta());

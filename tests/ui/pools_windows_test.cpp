@@ -22,20 +22,6 @@ namespace fs = std::filesystem;
 
 namespace {
 
-template <typename Ventana>
-Ventana* Abrir(ui::VentanaPrincipal& v, const char* accion) {
-    Hijo<QAction>(v, QString::fromLatin1(accion))->trigger();
-    auto* ventana = v.findChild<Ventana*>();
-    if (ventana == nullptr || !QTest::qWaitForWindowExposed(ventana)) qFatal("No se abre");
-    return ventana;
-}
-
-void Agregar(QObject& ventana, int fila) {
-    auto* lista = Hijo<QListWidget>(ventana, QStringLiteral("ListaEquipos"));
-    pruebas::MenuDeContexto(ventana, lista, lista->visualItemRect(lista->item(fila)).center(),
-                            QStringLiteral("MenuEquipo"), QStringLiteral("Agregar"));
-}
-
 void Teclear(QObject& ventana, const char* campo, const QString& texto) {
     auto* c = Hijo<QLineEdit>(ventana, QString::fromLatin1(campo));
     c->setFocus();
@@ -61,7 +47,8 @@ class PruebaVentanasQuinielas : public QObject {
         pruebas::Instalacion inst;
         auto v = inst.Ventana();
         const auto carpeta = seasons::CarpetaTemporadaEnCurso(inst.trabajo.Ruta());
-        auto* boleto = Abrir<ui::VentanaJornadasQuinielaQt>(*v, "AccionJornadasQuiniela");
+        auto* boleto =
+            pruebas::AbrirDesdeMenu<ui::VentanaJornadasQuinielaQt>(*v, "AccionJornadasQuiniela");
         QCOMPARE(pruebas::TextoDe(*boleto, "EtiquetaCabecera"), QStringLiteral("Temporada 23/24"));
         auto* jornada = Hijo<QComboBox>(*boleto, QStringLiteral("ListaJornada"));
         QVERIFY(jornada->count() > 10);
@@ -73,19 +60,19 @@ class PruebaVentanasQuinielas : public QObject {
         jornada->lineEdit()->selectAll();
         QTest::keyClicks(jornada->lineEdit(), QStringLiteral("60"));
         QTest::keyClick(jornada->lineEdit(), Qt::Key_Return);
-        Agregar(*boleto, 0);
+        pruebas::AgregarDeLaLista(*boleto, 0);
         QCOMPARE(inst.dialogo.Textos().back(), std::string(seasons::kMsgAntesDeEquipos));
         Teclear(*boleto, "CampoFecha", QStringLiteral("04/05/24"));
-        Agregar(*boleto, 0);
+        pruebas::AgregarDeLaLista(*boleto, 0);
         QCOMPARE(inst.dialogo.Textos().back(), std::string(seasons::kMsgFaltaJornadaLiga1));
         Teclear(*boleto, "CampoJornada1", QStringLiteral("3x4"));
         QCOMPARE(inst.dialogo.Textos().back(), std::string(seasons::kMsgSoloNumeroJornadaLiga));
         QCOMPARE(Hijo<QLineEdit>(*boleto, QStringLiteral("CampoJornada1"))->text(),
                  QStringLiteral("34"));
-        for (int i = 0; i < 20; ++i) Agregar(*boleto, i);
+        for (int i = 0; i < 20; ++i) pruebas::AgregarDeLaLista(*boleto, i);
         Hijo<QComboBox>(*boleto, QStringLiteral("ListaDivision"))->setCurrentIndex(1);
         Teclear(*boleto, "CampoJornada2", QStringLiteral("38"));
-        for (int i = 0; i < 8; ++i) Agregar(*boleto, i);
+        for (int i = 0; i < 8; ++i) pruebas::AgregarDeLaLista(*boleto, i);
         // Dos de fuera de las divisiones, escritos.
         Hijo<QComboBox>(*boleto, QStringLiteral("ListaDivision"))->setCurrentIndex(2);
         for (const char* otro : {"Real Union", "Ourense"}) {
@@ -119,7 +106,8 @@ class PruebaVentanasQuinielas : public QObject {
         pruebas::Instalacion inst;
         auto v = inst.Ventana();
         const auto carpeta = seasons::CarpetaTemporadaEnCurso(inst.trabajo.Ruta());
-        auto* resultados = Abrir<ui::VentanaResultadosQuinielaQt>(*v, "AccionResultadosQuiniela");
+        auto* resultados = pruebas::AbrirDesdeMenu<ui::VentanaResultadosQuinielaQt>(
+            *v, "AccionResultadosQuiniela");
         auto* jornada = Hijo<QComboBox>(*resultados, QStringLiteral("ListaJornada"));
         auto* rejilla = Hijo<QTableWidget>(*resultados, QStringLiteral("RejillaPartidos"));
         pruebas::Pulsar(*resultados, "BotonGuardar");

@@ -18,13 +18,6 @@ namespace fs = std::filesystem;
 
 namespace {
 
-ui::VentanaEquiposQt* AbrirEquipos(ui::VentanaPrincipal& v) {
-    Hijo<QAction>(v, QStringLiteral("AccionEquipos"))->trigger();
-    auto* ventana = v.findChild<ui::VentanaEquiposQt*>();
-    if (ventana == nullptr || !QTest::qWaitForWindowExposed(ventana)) qFatal("No se abre Equipos");
-    return ventana;
-}
-
 QStringList Lista(QObject& ventana, int division) {
     auto* lista = Hijo<QListWidget>(ventana, QStringLiteral("ListaEquipos%1").arg(division));
     QStringList nombres;
@@ -57,7 +50,7 @@ class PruebaVentanaEquipos : public QObject {
     void ConJornadasDeLigaSoloSeMiran() {
         pruebas::Instalacion inst;
         auto v = inst.Ventana();
-        auto* equipos = AbrirEquipos(*v);
+        auto* equipos = pruebas::AbrirDesdeMenu<ui::VentanaEquiposQt>(*v, "AccionEquipos");
         QCOMPARE(Lista(*equipos, 1).size(), 20);
         QCOMPARE(Lista(*equipos, 2).size(), 22);
         QCOMPARE(Lista(*equipos, 1).first(), QStringLiteral("Alavés"));
@@ -75,7 +68,7 @@ class PruebaVentanaEquipos : public QObject {
     void UnaTemporadaNuevaSusEquiposYLaEtiqueta() {
         pruebas::Instalacion inst;
         auto v = inst.Ventana();
-        auto* equipos = AbrirEquipos(*v);
+        auto* equipos = pruebas::AbrirDesdeMenu<ui::VentanaEquiposQt>(*v, "AccionEquipos");
         inst.dialogo.Responder(Respuesta::Aceptar)
             .Responder(std::optional<std::string>("24/25"))
             .Responder(std::optional<std::string>("20"))
@@ -125,7 +118,7 @@ class PruebaVentanaEquipos : public QObject {
     void MayusculasVTraeLasValoraciones() {
         pruebas::Instalacion inst;
         auto v = inst.Ventana();
-        auto* equipos = AbrirEquipos(*v);
+        auto* equipos = pruebas::AbrirDesdeMenu<ui::VentanaEquiposQt>(*v, "AccionEquipos");
         auto* valoracion = Hijo<QLineEdit>(*equipos, QStringLiteral("CampoValoracion2"));
         QVERIFY(!valoracion->isVisible());
         auto* nombre = Hijo<QLineEdit>(*equipos, QStringLiteral("CampoNombre1"));

@@ -4,6 +4,7 @@
 #include <QComboBox>
 #include <QHeaderView>
 #include <QLabel>
+#include <QListWidget>
 #include <QMenu>
 #include <QPointer>
 #include <QPushButton>
@@ -135,6 +136,22 @@ inline void MenuDeContexto(QObject& ventana, QWidget* widget, QPoint donde, cons
     const QPointer<QMenu> cerrado(abierto);
     abierto->close();
     QTRY_VERIFY(cerrado.isNull());
+}
+
+// La ventana que abre la acción de ese nombre de los menús de la principal, ya a la vista.
+template <typename Ventana>
+Ventana* AbrirDesdeMenu(ui::VentanaPrincipal& v, const char* accion) {
+    Hijo<QAction>(v, QString::fromLatin1(accion))->trigger();
+    auto* ventana = v.findChild<Ventana*>();
+    if (ventana == nullptr || !QTest::qWaitForWindowExposed(ventana)) qFatal("No se abre");
+    return ventana;
+}
+
+// "Agregar" del menú de la fila de la lista de equipos ("ListaEquipos") de una ventana.
+inline void AgregarDeLaLista(QObject& ventana, int fila) {
+    auto* lista = Hijo<QListWidget>(ventana, QStringLiteral("ListaEquipos"));
+    MenuDeContexto(ventana, lista, lista->visualItemRect(lista->item(fila)).center(),
+                   QStringLiteral("MenuEquipo"), QStringLiteral("Agregar"));
 }
 
 // Un clic en el botón de ese nombre.
