@@ -15,7 +15,6 @@
 #include "tests/ui/window_fixture.h"
 #include "ui/league_fixture_window.h"
 #include "ui/league_results_window.h"
-#include "ui/teams_window.h"
 
 using namespace quinteva;
 using base::Respuesta;
@@ -23,18 +22,6 @@ using pruebas::Hijo;
 namespace fs = std::filesystem;
 
 namespace {
-
-// Una temporada 24/25 recién creada en "Equipos", con los equipos de la de demostración.
-void TemporadaNueva(pruebas::Instalacion& inst, ui::VentanaPrincipal& v) {
-    auto* equipos = pruebas::AbrirDesdeMenu<ui::VentanaEquiposQt>(v, "AccionEquipos");
-    inst.dialogo.Responder(Respuesta::Aceptar)
-        .Responder(std::optional<std::string>("24/25"))
-        .Responder(std::optional<std::string>("20"))
-        .Responder(std::optional<std::string>("22"));
-    pruebas::Pulsar(*equipos, "BotonNuevaTemporada");
-    pruebas::Pulsar(*equipos, "BotonCerrar");
-    QTRY_VERIFY(v.findChild<ui::VentanaEquiposQt*>() == nullptr);
-}
 
 std::vector<seasons::RegPartidoLiga> Liga(const fs::path& carpetaTemporada) {
     base::ArchivoDe<seasons::RegPartidoLiga> liga(carpetaTemporada / seasons::kJlig2);
@@ -58,7 +45,7 @@ class PruebaVentanasLiga : public QObject {
     void UnaJornadaNuevaYSusResultados() {
         pruebas::Instalacion inst;
         auto v = inst.Ventana();
-        TemporadaNueva(inst, *v);
+        pruebas::TemporadaNueva(inst, *v);
         const fs::path carpeta = inst.trabajo / "Temporada2425";
 
         auto* jornadas =

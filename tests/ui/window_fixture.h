@@ -20,6 +20,7 @@
 #include "tests/ui/test_reducer.h"
 #include "ui/base_page.h"
 #include "ui/main_window.h"
+#include "ui/teams_window.h"
 
 namespace quinteva::pruebas {
 
@@ -157,6 +158,18 @@ inline void AgregarDeLaLista(QObject& ventana, int fila) {
 // Un clic en el botón de ese nombre.
 inline void Pulsar(QObject& madre, const char* boton) {
     QTest::mouseClick(Hijo<QPushButton>(madre, QString::fromLatin1(boton)), Qt::LeftButton);
+}
+
+// Una temporada 24/25 recién creada en "Equipos", con los equipos de la que había.
+inline void TemporadaNueva(Instalacion& inst, ui::VentanaPrincipal& v) {
+    auto* equipos = AbrirDesdeMenu<ui::VentanaEquiposQt>(v, "AccionEquipos");
+    inst.dialogo.Responder(base::Respuesta::Aceptar)
+        .Responder(std::optional<std::string>("24/25"))
+        .Responder(std::optional<std::string>("20"))
+        .Responder(std::optional<std::string>("22"));
+    Pulsar(*equipos, "BotonNuevaTemporada");
+    Pulsar(*equipos, "BotonCerrar");
+    QTRY_VERIFY(v.findChild<ui::VentanaEquiposQt*>() == nullptr);
 }
 
 inline void Marcar(ui::VentanaPrincipal& v, const char* opcion) {
