@@ -142,6 +142,8 @@ inline void MenuDeContexto(QObject& ventana, QWidget* widget, QPoint donde, cons
 // La ventana que abre la acción de ese nombre de los menús de la principal, ya a la vista.
 template <typename Ventana>
 Ventana* AbrirDesdeMenu(ui::VentanaPrincipal& v, const char* accion) {
+    // Una ventana del mismo tipo ya cerrada se borra antes, para no encontrarla a ella.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     Hijo<QAction>(v, QString::fromLatin1(accion))->trigger();
     auto* ventana = v.findChild<Ventana*>();
     if (ventana == nullptr || !QTest::qWaitForWindowExposed(ventana)) qFatal("No se abre");
