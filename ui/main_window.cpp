@@ -241,7 +241,8 @@ void VentanaPrincipal::CrearMenus() {
     listadoReducidas_ = Accion(listados, QStringLiteral("De Apuestas &Reducidas"),
                                QStringLiteral("AccionListadoReducidas"), false);
     connect(listadoReducidas_, &QAction::triggered, this, [this] { Listado(false); });
-    Accion(ver, QStringLiteral("&Quinielas"), QStringLiteral("AccionQuinielas"), false);
+    connect(Accion(ver, QStringLiteral("&Quinielas"), QStringLiteral("AccionQuinielas")),
+            &QAction::triggered, this, &VentanaPrincipal::VerQuinielas);
     Accion(ver, QStringLiteral("&Estadísticas"), QStringLiteral("AccionEstadisticas"), false);
     Accion(ver, QStringLiteral("&Columnas Ganadoras"), QStringLiteral("AccionColumnasGanadoras"),
            false);

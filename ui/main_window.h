@@ -96,6 +96,8 @@ class VentanaPrincipal : public QMainWindow {
     void JornadasQuiniela();
     // "De Jornadas de &Quinielas": la columna ganadora de cada Jornada.
     void ResultadosQuiniela();
+    // "&Quinielas": las columnas que se juegan de la Combinación guardada, una a una.
+    void VerQuinielas();
     void AcercaDe();
 
     // La página Boletos: el conjunto que se juega, el ajuste y los mandatos de salida.

@@ -13,6 +13,7 @@
 #include "ui/main_window.h"
 #include "ui/pools_results_window.h"
 #include "ui/pools_slip_window.h"
+#include "ui/pools_view_window.h"
 #include "ui/qt_text.h"
 #include "ui/teams_window.h"
 
@@ -70,6 +71,16 @@ void VentanaPrincipal::ResultadosQuiniela() {
     connect(ventana, &VentanaResultadosQuinielaQt::resultadosGuardados, this,
             &VentanaPrincipal::SeguirArchivosDeTemporada);
     AbrirVentana(ventana);
+}
+
+void VentanaPrincipal::VerQuinielas() {
+    if (trabajo_.EnCurso() || !ExigirNombre()) return;
+    try {
+        AbrirVentana(
+            new VentanaVerQuinielas(outputs::VistaQuinielas(comb_.ruta, S(fechaJornada_)), this));
+    } catch (const std::exception& e) {
+        Fallo(e);
+    }
 }
 
 void VentanaPrincipal::TemporadaNueva(const QString& etiqueta) {

@@ -8,6 +8,7 @@
 #include <string>
 
 #include "engine/columns.h"
+#include "engine/combination_files.h"
 
 namespace quinteva::pruebas {
 
@@ -20,6 +21,18 @@ inline void EscribirColumnas(const std::filesystem::path& ruta,
         archivo.write(reinterpret_cast<const char*>(bytes.data()),
                       static_cast<std::streamsize>(bytes.size()));
     }
+}
+
+// Una cabecera de ".uxd" con la Jornada y el juego dados, cortada a "longitud" bytes.
+inline void EscribirCabecera(const std::filesystem::path& ruta, std::uint8_t jornada,
+                             const std::string& juego,
+                             std::size_t longitud = engine::RegistroCabecera::kLongitud) {
+    engine::RegistroCabecera cabecera;
+    cabecera.jornada = jornada;
+    cabecera.jugada = juego;
+    const auto bytes = cabecera.ABytes();
+    std::ofstream(ruta, std::ios::binary)
+        .write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(longitud));
 }
 
 inline std::string BytesDe(const std::filesystem::path& ruta) {

@@ -13,37 +13,25 @@
 namespace quinteva::outputs {
 namespace {
 
-// Una cabecera con la Jornada y el juego dados, cortada a "longitud" bytes.
-void EscribirCabecera(const std::filesystem::path& ruta, std::uint8_t jornada,
-                      const std::string& juego,
-                      std::size_t longitud = engine::RegistroCabecera::kLongitud) {
-    engine::RegistroCabecera cabecera;
-    cabecera.jornada = jornada;
-    cabecera.jugada = juego;
-    const auto bytes = cabecera.ABytes();
-    std::ofstream(ruta, std::ios::binary)
-        .write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(longitud));
-}
-
 TEST(JuegoJugado, LaCabeceraEligeElCndOElRed) {
     pruebas::CarpetaTemporal carpeta;
-    EscribirCabecera(carpeta / "q.uxd", 37, "cnd");
+    pruebas::EscribirCabecera(carpeta / "q.uxd", 37, "cnd");
     JuegoJugado juego = LeerJuegoJugado(carpeta / "q.uxd");
     EXPECT_EQ(juego.jornada, 37);
     EXPECT_EQ(juego.juego, "cnd");
     EXPECT_EQ(juego.columnas, carpeta / "q.cnd");
-    EscribirCabecera(carpeta / "q.uxd", 5, "red");
+    pruebas::EscribirCabecera(carpeta / "q.uxd", 5, "red");
     juego = LeerJuegoJugado(carpeta / "q.uxd");
     EXPECT_EQ(juego.jornada, 5);
     EXPECT_EQ(juego.columnas, carpeta / "q.red");
     // Sin juego elegido, el reducido.
-    EscribirCabecera(carpeta / "q.uxd", 5, "   ");
+    pruebas::EscribirCabecera(carpeta / "q.uxd", 5, "   ");
     EXPECT_EQ(LeerJuegoJugado(carpeta / "q.uxd").columnas, carpeta / "q.red");
 }
 
 TEST(JuegoJugado, CabeceraCortaOFaltaDanError) {
     pruebas::CarpetaTemporal carpeta;
-    EscribirCabecera(carpeta / "q.uxd", 1, "cnd", engine::RegistroCabecera::kLongitud - 1);
+    pruebas::EscribirCabecera(carpeta / "q.uxd", 1, "cnd", engine::RegistroCabecera::kLongitud - 1);
     try {
         LeerJuegoJugado(carpeta / "q.uxd");
         ADD_FAILURE();
