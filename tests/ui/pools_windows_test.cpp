@@ -3,11 +3,13 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QTableWidget>
 #include <QtTest>
 
 #include "base/record_files.h"
 #include "base/text1252.h"
+#include "outputs/played_set.h"
 #include "seasons/league.h"
 #include "seasons/pools.h"
 #include "seasons/record_files.h"
@@ -15,6 +17,7 @@
 #include "tests/ui/window_fixture.h"
 #include "ui/pools_results_window.h"
 #include "ui/pools_slip_window.h"
+#include "ui/pools_view_window.h"
 
 using namespace quinteva;
 using pruebas::Hijo;
@@ -142,6 +145,42 @@ class PruebaVentanasQuinielas : public QObject {
         const auto despues = Quiniela(carpeta, 12);
         QCOMPARE(despues[0].signo, std::string("X"));
         QCOMPARE(despues[14].signo, std::string("N"));
+    }
+
+    // "Quinielas" del menú Ver: la reducida guardada, columna a columna.
+    void VerLasQuinielasDeLaReducida() {
+        pruebas::Instalacion inst;
+        auto v = pruebas::Reducida(inst);
+        pruebas::Pagina(*v, ui::kBoletos);
+        const fs::path ruta = inst.documentos / "Reducida.uxd";
+        inst.dialogo.Responder(std::optional<fs::path>(ruta));
+        pruebas::Marcar(*v, "OpcionReducida");
+        auto* ver = pruebas::AbrirDesdeMenu<ui::VentanaVerQuinielas>(*v, "AccionQuinielas");
+        QCOMPARE(pruebas::TextoDe(*ver, "EtiquetaCabecera"),
+                 QStringLiteral("JORNADA 25,  Fecha ") + pruebas::TextoDe(*v, "FechaJornada"));
+        QCOMPARE(pruebas::TextoDe(*ver, "EtiquetaTitulo"), QStringLiteral("Quiniela Nº1"));
+        const auto columnas = outputs::LeerColumnas(outputs::LeerJuegoJugado(ruta).columnas, true);
+        QCOMPARE(static_cast<std::int32_t>(columnas.size()), v->Combinacion().activasReducidas);
+        auto* boleto = Hijo<QTableWidget>(*ver, QStringLiteral("BoletoQuiniela"));
+        const auto marcada = [&](int partido) {
+            for (int s = 0; s < 3; ++s) {
+                if (boleto->item(partido, s)->background().style() != Qt::NoBrush)
+                    return boleto->item(partido, s)->text().at(0).toLatin1();
+            }
+            return ' ';
+        };
+        auto* barra = Hijo<QScrollBar>(*ver, QStringLiteral("BarraQuinielas"));
+        QCOMPARE(barra->maximum(), static_cast<int>(columnas.size()) - 1);
+        barra->setValue(2);
+        QCOMPARE(pruebas::TextoDe(*ver, "EtiquetaTitulo"), QStringLiteral("Quiniela Nº3"));
+        for (int p = 0; p < 14; ++p)
+            QCOMPARE(marcada(p), columnas[2].columna[static_cast<std::size_t>(p)]);
+        QCOMPARE(boleto->item(14, 0)->text(), QString(QChar::fromLatin1(columnas[2].pleno[0])));
+        QVERIFY(!Hijo<QPushButton>(*ver, QStringLiteral("BotonImprimirUna"))->isEnabled());
+        pruebas::Pulsar(*ver, "BotonVerTodas");
+        auto* todas = Hijo<QListWidget>(*ver, QStringLiteral("ListaTodas"));
+        QCOMPARE(todas->count(), static_cast<int>(columnas.size()));
+        QVERIFY(todas->item(0)->text().startsWith(QStringLiteral("Quiniela Nº1  ")));
     }
 };
 
