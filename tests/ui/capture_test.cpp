@@ -4,6 +4,7 @@
 #include <QLineEdit>
 #include <QRadioButton>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QTabWidget>
 #include <QtTest>
 
@@ -25,6 +26,7 @@
 #include "ui/options_window.h"
 #include "ui/pools_results_window.h"
 #include "ui/pools_slip_window.h"
+#include "ui/pools_view_window.h"
 #include "ui/remove_columns_window.h"
 #include "ui/report_windows.h"
 #include "ui/spanish_texts.h"
@@ -182,6 +184,20 @@ class PruebaCapturas : public QObject {
         auto* jornadaResultados = Hijo<QComboBox>(*resultados, "ListaJornada");
         jornadaResultados->setCurrentIndex(jornadaResultados->findText(QStringLiteral("12")));
         Capturar(*resultados, QStringLiteral("ventana_resultados_quiniela"));
+    }
+
+    // "Ver Quinielas" sobre la reducida guardada, en su tercera columna.
+    void VentanaVerQuinielas() {
+        pruebas::Instalacion inst;
+        auto v = pruebas::Reducida(inst);
+        pruebas::Pagina(*v, ui::kBoletos);
+        inst.dialogo.Responder(std::optional<std::filesystem::path>(inst.documentos / "R.uxd"));
+        pruebas::Marcar(*v, "OpcionReducida");
+        Hijo<QAction>(*v, "AccionQuinielas")->trigger();
+        auto* ver = v->findChild<ui::VentanaVerQuinielas*>();
+        QVERIFY(ver != nullptr);
+        Hijo<QScrollBar>(*ver, "BarraQuinielas")->setValue(2);
+        Capturar(*ver, QStringLiteral("ventana_ver_quinielas"));
     }
 
     // Cada ventana que se abre desde la página Boletos y los menús, sobre la Combinación dada.
