@@ -49,7 +49,10 @@ VentanaVerQuinielas::VentanaVerQuinielas(outputs::VistaQuinielas vista, QWidget*
     boleto_->horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     boleto_->horizontalHeader()->setDefaultSectionSize(40);
     boleto_->setFixedWidth(boleto_->verticalHeader()->sizeHint().width() + 3 * 40 + 4);
-    caja->addWidget(boleto_, 1, Qt::AlignHCenter);
+    boleto_->setFixedHeight(boleto_->horizontalHeader()->sizeHint().height() +
+                            boleto_->rowCount() * boleto_->verticalHeader()->defaultSectionSize() +
+                            4);
+    caja->addWidget(boleto_, 0, Qt::AlignHCenter);
 
     barra_ = new QScrollBar(Qt::Horizontal, this);
     barra_->setObjectName(QStringLiteral("BarraQuinielas"));
@@ -75,7 +78,7 @@ VentanaVerQuinielas::VentanaVerQuinielas(outputs::VistaQuinielas vista, QWidget*
 
     connect(barra_, &QScrollBar::valueChanged, this, &VentanaVerQuinielas::Mostrar);
     Mostrar(0);
-    resize(360, 640);
+    resize(440, 620);
 }
 
 void VentanaVerQuinielas::Mostrar(int indice) {
