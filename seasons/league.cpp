@@ -114,11 +114,13 @@ void VentanaJornadasLiga::Reemplazar(std::string_view equipo) {
 
 void VentanaJornadasLiga::Vaciar() { Reemplazar(""); }
 
-bool VentanaJornadasLiga::TeclaFecha(char tecla) {
+bool TeclaDeFecha(char tecla, base::Dialogo& dialogo) {
     if (std::isdigit(static_cast<unsigned char>(tecla)) != 0 || tecla == '/') return true;
-    dialogo_.Mensaje(kMsgTeclaFecha);
+    dialogo.Mensaje(kMsgTeclaFecha);
     return false;
 }
+
+bool VentanaJornadasLiga::TeclaFecha(char tecla) { return TeclaDeFecha(tecla, dialogo_); }
 
 void VentanaJornadasLiga::EscribirFecha(std::string_view fecha) {
     fecha_ = fecha;

@@ -91,6 +91,10 @@ class VentanaJornadasLiga {
     Celda elegida_;
 };
 
+// Una tecla de un campo de fecha: solo cifras y "/"; otra cosa, "Tiene que introducir la fecha en
+// formato 'dd/mm/aa'." y false.
+bool TeclaDeFecha(char tecla, base::Dialogo& dialogo);
+
 // "dd/mm/aa" a días desde el 30/12/1899 (años 2000 a 2099); una fecha imposible es el Error "No
 // coinciden los tipos", como la conversión de fechas del sistema.
 double SerieDeFecha(std::string_view fecha);

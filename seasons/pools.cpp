@@ -103,11 +103,7 @@ void VentanaJornadasQuiniela::ElegirJornada(int jornada) {
     });
 }
 
-bool VentanaJornadasQuiniela::TeclaFecha(char tecla) {
-    if (std::isdigit(static_cast<unsigned char>(tecla)) != 0 || tecla == '/') return true;
-    dialogo_.Mensaje(kMsgTeclaFecha);
-    return false;
-}
+bool VentanaJornadasQuiniela::TeclaFecha(char tecla) { return TeclaDeFecha(tecla, dialogo_); }
 
 const std::string& VentanaJornadasQuiniela::JornadaLiga(int division) const {
     return jornadasLiga_.at(static_cast<std::size_t>(division - 1));

@@ -82,11 +82,7 @@ VentanaJornadasLigaQt::VentanaJornadasLigaQt(const std::filesystem::path& carpet
 
 template <typename F>
 void VentanaJornadasLigaQt::Manejar(F&& mandato) {
-    try {
-        mandato();
-    } catch (const std::exception& e) {
-        dialogo_.Mensaje(e.what(), base::Icono::Error);
-    }
+    ConAviso(dialogo_, mandato);
     Refrescar();
 }
 

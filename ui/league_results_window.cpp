@@ -77,11 +77,7 @@ VentanaResultadosLigaQt::VentanaResultadosLigaQt(const std::filesystem::path& ca
 
 template <typename F>
 void VentanaResultadosLigaQt::Manejar(F&& mandato) {
-    try {
-        mandato();
-    } catch (const std::exception& e) {
-        dialogo_.Mensaje(e.what(), base::Icono::Error);
-    }
+    ConAviso(dialogo_, mandato);
     Refrescar();
 }
 

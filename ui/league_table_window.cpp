@@ -10,6 +10,7 @@
 
 #include "seasons/league_table.h"
 #include "ui/report_grid.h"
+#include "ui/season_window_parts.h"
 
 namespace quinteva::ui {
 namespace {
@@ -70,7 +71,7 @@ VentanaClasificacion::VentanaClasificacion(std::filesystem::path carpetaTemporad
 int VentanaClasificacion::Division() const { return division_->currentIndex() + 1; }
 
 void VentanaClasificacion::Llenar() {
-    try {
+    ConAviso(dialogo_, [this] {
         const auto filas = seasons::FilasClasificacion(carpetaTemporada_, Division(), ajustes_);
         tabla_->setRowCount(static_cast<int>(filas.size()));
         for (int f = 0; f < tabla_->rowCount(); ++f) {
@@ -92,18 +93,15 @@ void VentanaClasificacion::Llenar() {
                 tabla_->setItem(f, c, celda);
             }
         }
-    } catch (const std::exception& e) {
-        dialogo_.Mensaje(e.what(), base::Icono::Error);
-    }
+    });
 }
 
 void VentanaClasificacion::Recalcular() {
-    try {
-        if (!seasons::Recalcular(carpetaTemporada_, Division(), ajustes_, dialogo_)) return;
-    } catch (const std::exception& e) {
-        dialogo_.Mensaje(e.what(), base::Icono::Error);
-    }
-    Llenar();
+    bool hecho = true;
+    ConAviso(dialogo_, [&] {
+        hecho = seasons::Recalcular(carpetaTemporada_, Division(), ajustes_, dialogo_);
+    });
+    if (hecho) Llenar();
 }
 
 }  // namespace quinteva::ui

@@ -66,11 +66,7 @@ VentanaResultadosQuinielaQt::VentanaResultadosQuinielaQt(
 
 template <typename F>
 void VentanaResultadosQuinielaQt::Manejar(F&& mandato) {
-    try {
-        mandato();
-    } catch (const std::exception& e) {
-        dialogo_.Mensaje(e.what(), base::Icono::Error);
-    }
+    ConAviso(dialogo_, mandato);
     Refrescar();
 }
 

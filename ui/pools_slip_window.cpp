@@ -130,11 +130,7 @@ VentanaJornadasQuinielaQt::VentanaJornadasQuinielaQt(const std::filesystem::path
 
 template <typename F>
 void VentanaJornadasQuinielaQt::Manejar(F&& mandato) {
-    try {
-        mandato();
-    } catch (const std::exception& e) {
-        dialogo_.Mensaje(e.what(), base::Icono::Error);
-    }
+    ConAviso(dialogo_, mandato);
     Refrescar();
 }
 
@@ -144,11 +140,9 @@ int VentanaJornadasQuinielaQt::DivisionDeLista() const {
 
 void VentanaJornadasQuinielaQt::LlenarLista() {
     equipos_->clear();
-    try {
+    ConAviso(dialogo_, [&] {
         for (const auto& e : boleto_.Lista(DivisionDeLista())) equipos_->addItem(Q(e));
-    } catch (const std::exception& e) {
-        dialogo_.Mensaje(e.what(), base::Icono::Error);
-    }
+    });
     otro_->setVisible(DivisionDeLista() == seasons::kOtrosEquipos);
 }
 

@@ -2,6 +2,9 @@
 
 #include <QString>
 #include <QStringList>
+#include <exception>
+
+#include "base/dialog.h"
 
 class QBoxLayout;
 class QComboBox;
@@ -23,6 +26,16 @@ void PonerJornadas(QComboBox* selector, int jornadas, int elegida);
 
 QTableWidget* RejillaPartidos(QWidget* madre, const QStringList& cabeceras);
 void PonerCelda(QTableWidget* rejilla, int fila, int columna, const QString& texto);
+
+// Un mandato de una ventana: el texto de su fallo al usuario; lo hecho no se deshace.
+template <typename F>
+void ConAviso(base::Dialogo& dialogo, F&& mandato) {
+    try {
+        mandato();
+    } catch (const std::exception& e) {
+        dialogo.Mensaje(e.what(), base::Icono::Error);
+    }
+}
 
 QPushButton* BotonVentana(QWidget* madre, QBoxLayout* fila, const QString& texto,
                           const QString& nombre);

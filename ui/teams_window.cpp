@@ -1,5 +1,6 @@
 #include "ui/teams_window.h"
 #include "ui/qt_text.h"
+#include "ui/season_window_parts.h"
 
 #include <QGridLayout>
 #include <QGroupBox>
@@ -124,11 +125,7 @@ QWidget* VentanaEquiposQt::CrearDivision(int division, const QString& titulo) {
 
 template <typename F>
 void VentanaEquiposQt::Manejar(F&& mandato) {
-    try {
-        mandato();
-    } catch (const std::exception& e) {
-        dialogo_.Mensaje(e.what(), base::Icono::Error);
-    }
+    ConAviso(dialogo_, mandato);
     Refrescar();
 }
 
