@@ -68,6 +68,8 @@ VentanaResultadosLigaQt::VentanaResultadosLigaQt(const std::filesystem::path& ca
         if (columna >= kColumnaGoles) resultados_.ElegirCelda({fila, columna - kColumnaGoles});
     });
 
+    // Al abrir, las cifras van a la rejilla y no a los selectores.
+    rejilla_->setFocus();
     Manejar([&] {
         resultados_.ElegirDivision(1);
         if (fechaQuiniela) resultados_.IrALaFecha(*fechaQuiniela);

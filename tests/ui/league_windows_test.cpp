@@ -109,6 +109,8 @@ class PruebaVentanasLiga : public QObject {
         QCOMPARE(Celda(goles, 0, 2), QStringLiteral("0"));
         QCOMPARE(pruebas::TextoDe(*resultados, "EtiquetaFecha"), QStringLiteral("Fecha: 17/08/24"));
         QVERIFY(!guardar->isEnabled());
+        // Al abrir, el foco está en la rejilla: una cifra no cambia la división.
+        QCOMPARE(QApplication::focusWidget(), goles);
 
         // Las cifras pasan de celda en celda; una letra no se toma; Suprimir vacía.
         pruebas::Pulsar(goles, 0, 2);
