@@ -210,9 +210,8 @@ void Quiniela(int q, const Division& d1, const Division& d2,
         r.local = d.equipos[static_cast<std::size_t>(p.local)];
         r.visitante = d.equipos[static_cast<std::size_t>(p.visitante)];
         r.signo = partido < 15 ? Signo(p)
-                  : p.jugado
-                      ? base::PlenoALetra(GolPleno(p.golesLocal), GolPleno(p.golesVisitante))
-                      : " ";
+                  : p.jugado ? base::PlenoALetra(GolPleno(p.golesLocal), GolPleno(p.golesVisitante))
+                             : " ";
         jquin.Anadir(r);
         columna.signos[static_cast<std::size_t>(partido - 1)] = r.signo[0];
     }
