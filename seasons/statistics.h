@@ -77,6 +77,26 @@ struct BusquedaHistorico {
     std::string temporada;
     int division = 0;
     int jornada = 0;
+
+    static BusquedaHistorico DeEquipo(std::string equipo) {
+        BusquedaHistorico b;
+        b.equipo1 = std::move(equipo);
+        return b;
+    }
+    static BusquedaHistorico DePartidos(std::string equipo1, std::string equipo2) {
+        BusquedaHistorico b = DeEquipo(std::move(equipo1));
+        b.modo = Modo::Partidos;
+        b.equipo2 = std::move(equipo2);
+        return b;
+    }
+    static BusquedaHistorico DeJornada(std::string temporada, int division, int jornada) {
+        BusquedaHistorico b;
+        b.modo = Modo::Jornadas;
+        b.temporada = std::move(temporada);
+        b.division = division;
+        b.jornada = jornada;
+        return b;
+    }
 };
 // Un equipo se reconoce por su nombre exacto (recortado): los partidos con un nombre antiguo no
 // salen hasta que "Cambiar nombre Eq" lo une al nuevo. Lanza base::Error con el mensaje de la

@@ -176,29 +176,27 @@ struct Historia {
 
 TEST(Historico, EquiposPartidosYJornadas) {
     Historia h;
-    using Modo = BusquedaHistorico::Modo;
-    const auto betis = h.Buscar({Modo::Equipos, "Betis"});
+    const auto betis = h.Buscar(BusquedaHistorico::DeEquipo("Betis"));
     // De la temporada en curso solo hasta MaxJor1ª (4): la Jornada 9 no sale.
     ASSERT_EQ(betis.size(), 3U);
     EXPECT_EQ(betis[0].fecha, "06/10/23");
     EXPECT_EQ(betis[0].signo, "1");
     EXPECT_EQ(betis[1].signo, "X");
     EXPECT_EQ(betis[2].signo, "2");
-    EXPECT_EQ(h.Buscar({Modo::Partidos, "Betis", "Sevilla"}).size(), 2U);
-    const auto jornada = h.Buscar({Modo::Jornadas, "", "", "22/23", 1, 24});
+    EXPECT_EQ(h.Buscar(BusquedaHistorico::DePartidos("Betis", "Sevilla")).size(), 2U);
+    const auto jornada = h.Buscar(BusquedaHistorico::DeJornada("22/23", 1, 24));
     ASSERT_EQ(jornada.size(), 1U);
     EXPECT_EQ(jornada[0].local, "Sevilla");
     // De 2ª, MaxJor2ª no está: 0, nada de la temporada en curso.
-    EXPECT_TRUE(h.Buscar({Modo::Equipos, "Racing"}).empty());
+    EXPECT_TRUE(h.Buscar(BusquedaHistorico::DeEquipo("Racing")).empty());
 }
 
 TEST(Historico, LoQueFaltaLoDiceLaVentana) {
     Historia h;
-    using Modo = BusquedaHistorico::Modo;
     EXPECT_THROW(
         {
             try {
-                h.Buscar({Modo::Equipos});
+                h.Buscar(BusquedaHistorico::DeEquipo(""));
             } catch (const base::Error& e) {
                 EXPECT_EQ(std::string(e.what()), kMsgEligeEquipo);
                 throw;
@@ -206,13 +204,13 @@ TEST(Historico, LoQueFaltaLoDiceLaVentana) {
         },
         base::Error);
     try {
-        h.Buscar({Modo::Partidos, "Betis"});
+        h.Buscar(BusquedaHistorico::DePartidos("Betis", ""));
         ADD_FAILURE();
     } catch (const base::Error& e) {
         EXPECT_EQ(std::string(e.what()), kMsgEligeDosEquipos);
     }
     try {
-        h.Buscar({Modo::Jornadas, "", "", "22/23", 1, 0});
+        h.Buscar(BusquedaHistorico::DeJornada("22/23", 1, 0));
         ADD_FAILURE();
     } catch (const base::Error& e) {
         EXPECT_EQ(std::string(e.what()), kMsgEligeJornada);
@@ -233,8 +231,8 @@ TEST(Historico, CambiarNombreNoTocaLaLigaNiLosEquipos) {
     EXPECT_EQ(CambiarNombreEnHistorico(h.trabajo.Ruta(), "Betis", "Real Betis"), 4);
     EXPECT_EQ(Leer(temporada / kJlig2), liga);
     EXPECT_EQ(Leer(temporada / kNomeq), equipos);
-    EXPECT_TRUE(h.Buscar({BusquedaHistorico::Modo::Equipos, "Betis"}).empty());
-    EXPECT_EQ(h.Buscar({BusquedaHistorico::Modo::Equipos, "Real Betis"}).size(), 3U);
+    EXPECT_TRUE(h.Buscar(BusquedaHistorico::DeEquipo("Betis")).empty());
+    EXPECT_EQ(h.Buscar(BusquedaHistorico::DeEquipo("Real Betis")).size(), 3U);
 }
 
 TEST(Historico, AnadirElJlig2DeLaCarpetaDeTrabajo) {
@@ -246,7 +244,7 @@ TEST(Historico, AnadirElJlig2DeLaCarpetaDeTrabajo) {
     }
     EXPECT_EQ(AnadirJlig2AHistorico(h.trabajo.Ruta()), 2);
     EXPECT_EQ(base::CuentaRegistros(h.trabajo / kHist, RegPartidoLiga::kLongitud), 7);
-    EXPECT_EQ(h.Buscar({BusquedaHistorico::Modo::Partidos, "Elche", "Getafe"}).size(), 2U);
+    EXPECT_EQ(h.Buscar(BusquedaHistorico::DePartidos("Elche", "Getafe")).size(), 2U);
 }
 
 }  // namespace
