@@ -1,5 +1,8 @@
 #include "cli/arguments.h"
 
+#include <sstream>
+
+#include "base/text1252.h"
 #include "base/working_folder.h"
 
 namespace quinteva::cli {
@@ -55,6 +58,15 @@ std::filesystem::path Argumentos::CarpetaTrabajo() const {
     const auto carpeta = Valor("carpeta");
     return base::ResolverCarpetaTrabajo(carpeta ? std::optional<std::filesystem::path>(*carpeta)
                                                 : std::nullopt);
+}
+
+std::vector<std::string> SepararPorComas(const std::string& lista) {
+    std::vector<std::string> partes;
+    std::istringstream texto(lista);
+    for (std::string parte; std::getline(texto, parte, ',');) {
+        partes.emplace_back(base::Recortar(parte));
+    }
+    return partes;
 }
 
 }  // namespace quinteva::cli

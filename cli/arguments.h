@@ -47,4 +47,7 @@ class Argumentos {
     std::set<std::string, std::less<>> marcas_;
 };
 
+// "a, b,c" da {"a", "b", "c"}, cada parte recortada.
+std::vector<std::string> SepararPorComas(const std::string& lista);
+
 }  // namespace quinteva::cli

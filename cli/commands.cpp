@@ -69,6 +69,19 @@ std::span<const Subcomando> Subcomandos() {
          "copia en \"Jlig2.bak\".",
          {},
          &DepurarLigaCmd},
+        {"estadisticas",
+         "estadisticas --tipo signos|rachas|parejas|trios|grupos [--posiciones P1,P2,...] [--n N] "
+         "[--temporada aa/aa|Todas] [--json]",
+         "Lo que cuenta \"Estadísticas\" en las columnas ganadoras de \"Jornadas.rar\"; sin "
+         "--temporada, la que elige la ventana al abrir.",
+         {{"tipo", "posiciones", "n", "temporada"}, {}},
+         &Estadisticas},
+        {"historico",
+         "historico --equipo E | --equipos E1,E2 | --temporada aa/aa --division 1|2 --jornada N "
+         "[--json]",
+         "\"Histórico de Resultados\": los partidos de un equipo, de dos, o de una Jornada.",
+         {{"equipo", "equipos", "temporada", "division", "jornada"}, {}},
+         &Historico},
         {"quiniela",
          "quiniela --jornada N [--json]",
          "Los partidos de una Jornada de Quinielas de \"Jquin.rar\", con su fecha y sus signos.",

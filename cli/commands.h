@@ -33,6 +33,8 @@ int LigaJornada(const Argumentos& argumentos, std::ostream& salida);
 int LigaResultados(const Argumentos& argumentos, std::ostream& salida);
 int DepurarLigaCmd(const Argumentos& argumentos, std::ostream& salida);
 int Quiniela(const Argumentos& argumentos, std::ostream& salida);
+int Estadisticas(const Argumentos& argumentos, std::ostream& salida);
+int Historico(const Argumentos& argumentos, std::ostream& salida);
 int QuinielaResultados(const Argumentos& argumentos, std::ostream& salida);
 int Nueva(const Argumentos& argumentos, std::ostream& salida);
 int Info(const Argumentos& argumentos, std::ostream& salida);

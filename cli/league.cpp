@@ -34,15 +34,6 @@ void PuestoJson(const seasons::PuestoClasificacion& p, std::ostream& salida) {
            << ", \"GolesContra\": " << p.golesContra << ", \"Diferencia\": " << p.diferencia << '}';
 }
 
-std::vector<std::string> Separar(const std::string& lista) {
-    std::vector<std::string> partes;
-    std::istringstream texto(lista);
-    for (std::string parte; std::getline(texto, parte, ',');) {
-        partes.emplace_back(base::Recortar(parte));
-    }
-    return partes;
-}
-
 // Lo que el usuario haría en la rejilla: si los equipos son otros, la vacía y los agrega de la
 // lista uno a uno (HayCambios); si no, nada.
 bool PonerEquipos(seasons::VentanaJornadasLiga& v, const std::vector<std::string>& equipos) {
@@ -98,7 +89,7 @@ int LigaJornada(const Argumentos& argumentos, std::ostream& salida) {
     const int division = argumentos.Division(kUsoLigaJornada);
     const int jornada = std::atoi(argumentos.Exigir("jornada", kUsoLigaJornada).c_str());
     const std::string fecha = argumentos.Exigir("fecha", kUsoLigaJornada);
-    const auto equipos = Separar(argumentos.Exigir("equipos", kUsoLigaJornada));
+    const auto equipos = SepararPorComas(argumentos.Exigir("equipos", kUsoLigaJornada));
     const auto carpetaTrabajo = argumentos.CarpetaTrabajo();
     const base::AjustesIni ajustes(carpetaTrabajo);
     DialogoDeOrdenes dialogo(std::cerr);
