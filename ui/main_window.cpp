@@ -243,9 +243,11 @@ void VentanaPrincipal::CrearMenus() {
     connect(listadoReducidas_, &QAction::triggered, this, [this] { Listado(false); });
     connect(Accion(ver, QStringLiteral("&Quinielas"), QStringLiteral("AccionQuinielas")),
             &QAction::triggered, this, &VentanaPrincipal::VerQuinielas);
-    Accion(ver, QStringLiteral("&Estadísticas"), QStringLiteral("AccionEstadisticas"), false);
-    Accion(ver, QStringLiteral("&Columnas Ganadoras"), QStringLiteral("AccionColumnasGanadoras"),
-           false);
+    connect(Accion(ver, QStringLiteral("&Estadísticas"), QStringLiteral("AccionEstadisticas")),
+            &QAction::triggered, this, &VentanaPrincipal::Estadisticas);
+    connect(Accion(ver, QStringLiteral("&Columnas Ganadoras"),
+                   QStringLiteral("AccionColumnasGanadoras")),
+            &QAction::triggered, this, &VentanaPrincipal::ColumnasGanadoras);
     Accion(ver, QStringLiteral("&Histórico de Resultados"), QStringLiteral("AccionHistorico"),
            false);
     QMenu* resultados = ver->addMenu(QStringLiteral("&Resultados"));

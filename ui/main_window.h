@@ -98,6 +98,9 @@ class VentanaPrincipal : public QMainWindow {
     void ResultadosQuiniela();
     // "&Quinielas": las columnas que se juegan de la Combinación guardada, una a una.
     void VerQuinielas();
+    // "&Estadísticas" y "&Columnas Ganadoras": lo que dicen las columnas de "Jornadas.rar".
+    void Estadisticas();
+    void ColumnasGanadoras();
     void AcercaDe();
 
     // La página Boletos: el conjunto que se juega, el ajuste y los mandatos de salida.

@@ -1,5 +1,5 @@
 // Los mandatos de la ventana principal que abren las ventanas de la temporada: equipos, Jornadas
-// y resultados de Liga y de Quinielas, clasificaciones.
+// y resultados de Liga y de Quinielas, clasificaciones, estadísticas.
 #include <QLabel>
 #include <algorithm>
 
@@ -15,7 +15,9 @@
 #include "ui/pools_slip_window.h"
 #include "ui/pools_view_window.h"
 #include "ui/qt_text.h"
+#include "ui/statistics_window.h"
 #include "ui/teams_window.h"
+#include "ui/winning_columns_window.h"
 
 namespace quinteva::ui {
 
@@ -81,6 +83,14 @@ void VentanaPrincipal::VerQuinielas() {
     } catch (const std::exception& e) {
         Fallo(e);
     }
+}
+
+void VentanaPrincipal::Estadisticas() {
+    AbrirVentana(new VentanaEstadisticas(temporada_.carpetaTemporada, s_.dialogo, this));
+}
+
+void VentanaPrincipal::ColumnasGanadoras() {
+    AbrirVentana(new VentanaColumnasGanadoras(temporada_.carpetaTemporada, s_.dialogo, this));
 }
 
 void VentanaPrincipal::TemporadaNueva(const QString& etiqueta) {

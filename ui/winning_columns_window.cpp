@@ -1,0 +1,70 @@
+#include "ui/winning_columns_window.h"
+
+#include <QComboBox>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QPushButton>
+#include <QTableWidget>
+#include <QVBoxLayout>
+
+#include "seasons/statistics.h"
+#include "ui/qt_text.h"
+#include "ui/report_grid.h"
+#include "ui/season_window_parts.h"
+
+namespace quinteva::ui {
+
+VentanaColumnasGanadoras::VentanaColumnasGanadoras(std::filesystem::path carpetaTemporada,
+                                                   base::Dialogo& dialogo, QWidget* madre)
+    : QDialog(madre), carpetaTemporada_(std::move(carpetaTemporada)), dialogo_(dialogo) {
+    setObjectName(QStringLiteral("VentanaColumnasGanadoras"));
+    setWindowTitle(QStringLiteral("Columnas Ganadoras"));
+    auto* caja = new QVBoxLayout(this);
+    auto* arriba = new QHBoxLayout;
+    arriba->addWidget(new QLabel(QStringLiteral("Temporada"), this));
+    temporada_ = new QComboBox(this);
+    temporada_->setObjectName(QStringLiteral("ListaTemporada"));
+    ConAviso(dialogo_, [this] {
+        auto entradas = seasons::TemporadasDeJornadas(carpetaTemporada_).entradas;
+        entradas.pop_back();  // "Todas" no es de esta ventana
+        for (const auto& t : entradas) temporada_->addItem(Q(t));
+        temporada_->setCurrentIndex(temporada_->count() - 1);
+    });
+    arriba->addWidget(temporada_);
+    arriba->addStretch();
+    caja->addLayout(arriba);
+    tabla_ = RejillaInforme(this, QStringLiteral("TablaColumnas"), 0,
+                            {QStringLiteral("Jorn."), QStringLiteral("Columna")});
+    tabla_->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    tabla_->horizontalHeader()->setStretchLastSection(true);
+    tabla_->setFont(QFont(QStringLiteral("Courier New"), tabla_->font().pointSize()));
+    caja->addWidget(tabla_, 1);
+    auto* botones = new QHBoxLayout;
+    QPushButton* imprimir =
+        BotonVentana(this, botones, QStringLiteral("&Imprimir"), QStringLiteral("BotonImprimir"));
+    imprimir->setEnabled(false);
+    imprimir->setToolTip(QStringLiteral("La impresión llegará con el visor de informes."));
+    botones->addStretch();
+    connect(BotonVentana(this, botones, QStringLiteral("&Cerrar"), QStringLiteral("BotonCerrar")),
+            &QPushButton::clicked, this, &QDialog::accept);
+    caja->addLayout(botones);
+    connect(temporada_, &QComboBox::currentIndexChanged, this, &VentanaColumnasGanadoras::Llenar);
+    Llenar();
+    resize(420, 560);
+}
+
+void VentanaColumnasGanadoras::Llenar() {
+    ConAviso(dialogo_, [this] {
+        const auto filas =
+            seasons::ColumnasGanadoras(carpetaTemporada_, S(temporada_->currentText()));
+        tabla_->setRowCount(static_cast<int>(filas.size()));
+        for (int f = 0; f < tabla_->rowCount(); ++f) {
+            const auto& fila = filas[static_cast<std::size_t>(f)];
+            tabla_->setItem(f, 0, CeldaInforme(QString::number(fila.jornada), false, true));
+            tabla_->setItem(f, 1, CeldaInforme(Q(fila.columna), false, false));
+        }
+    });
+}
+
+}  // namespace quinteva::ui
