@@ -30,8 +30,10 @@
 #include "ui/remove_columns_window.h"
 #include "ui/report_windows.h"
 #include "ui/spanish_texts.h"
+#include "ui/statistics_window.h"
 #include "ui/teams_window.h"
 #include "ui/text_type_window.h"
+#include "ui/winning_columns_window.h"
 
 using namespace quinteva;
 using pruebas::Hijo;
@@ -198,6 +200,23 @@ class PruebaCapturas : public QObject {
         QVERIFY(ver != nullptr);
         Hijo<QScrollBar>(*ver, "BarraQuinielas")->setValue(2);
         Capturar(*ver, QStringLiteral("ventana_ver_quinielas"));
+    }
+
+    // "Estadísticas" (los unos por posición de la 23/24) y "Columnas Ganadoras".
+    void VentanasDeEstadisticas() {
+        pruebas::Instalacion inst;
+        auto v = inst.Ventana();
+        Hijo<QAction>(*v, "AccionEstadisticas")->trigger();
+        auto* estadisticas = v->findChild<ui::VentanaEstadisticas*>();
+        QVERIFY(estadisticas != nullptr);
+        auto* temporada = Hijo<QComboBox>(*estadisticas, "ListaTemporada");
+        temporada->setCurrentIndex(temporada->findText(QStringLiteral("23/24")));
+        Capturar(*estadisticas, QStringLiteral("ventana_estadisticas"));
+        estadisticas->close();
+        Hijo<QAction>(*v, "AccionColumnasGanadoras")->trigger();
+        auto* columnas = v->findChild<ui::VentanaColumnasGanadoras*>();
+        QVERIFY(columnas != nullptr);
+        Capturar(*columnas, QStringLiteral("ventana_columnas_ganadoras"));
     }
 
     // Cada ventana que se abre desde la página Boletos y los menús, sobre la Combinación dada.
