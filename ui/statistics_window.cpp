@@ -13,6 +13,7 @@
 #include <QVBoxLayout>
 #include <QValueAxis>
 #include <algorithm>
+#include <cmath>
 
 #include "seasons/statistics.h"
 #include "ui/qt_text.h"
@@ -166,7 +167,12 @@ void VentanaEstadisticas::Dibujar() {
     ejeY->setLabelFormat(QStringLiteral("%d"));
     double mayor = 0;
     for (int i = 0; i < barras->count(); ++i) mayor = std::max(mayor, barras->at(i));
-    ejeY->setRange(0, std::max(1.0, mayor));
+    // Marcas en números enteros: de 1 en 1 hasta 10 veces, y luego a pasos enteros.
+    const double paso = std::max(1.0, std::ceil(mayor / 10));
+    ejeY->setRange(0, std::max(paso, std::ceil(mayor / paso) * paso));
+    ejeY->setTickType(QValueAxis::TicksDynamic);
+    ejeY->setTickAnchor(0);
+    ejeY->setTickInterval(paso);
     grafico->addAxis(ejeX, Qt::AlignBottom);
     grafico->addAxis(ejeY, Qt::AlignLeft);
     serie->attachAxis(ejeX);
