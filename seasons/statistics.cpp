@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cctype>
 #include <cstdlib>
+#include <fstream>
 
 #include "base/dates.h"
 #include "base/error.h"
@@ -206,6 +207,30 @@ std::vector<FilaHistorico> BuscarEnHistorico(const fs::path& carpetaTrabajo,
                          SignoDeGoles(p.golesLocal, p.golesVisitante)});
     }
     return filas;
+}
+
+std::vector<std::string> TemporadasDeHistorico(const fs::path& carpetaTrabajo) {
+    std::vector<std::string> temporadas;
+    for (const auto& p : Leer<RegPartidoLiga>(carpetaTrabajo / kHist)) {
+        const std::string temporada(base::Recortar(p.temporada));
+        if (!temporada.empty() &&
+            std::find(temporadas.begin(), temporadas.end(), temporada) == temporadas.end()) {
+            temporadas.push_back(temporada);
+        }
+    }
+    return temporadas;
+}
+
+std::vector<std::string> NombresDelHistorico(const fs::path& carpetaDatos) {
+    const fs::path ruta = carpetaDatos / "equipos.txt";
+    std::ifstream archivo(ruta);
+    if (!archivo) throw base::Error("No se encontró la ruta de acceso: " + ruta.string());
+    std::vector<std::string> nombres;
+    for (std::string linea; std::getline(archivo, linea);) {
+        const std::string_view nombre = base::Recortar(linea);
+        if (!nombre.empty()) nombres.emplace_back(nombre);
+    }
+    return nombres;
 }
 
 int AnadirJlig2AHistorico(const fs::path& carpetaTrabajo) {

@@ -106,6 +106,13 @@ std::vector<FilaHistorico> BuscarEnHistorico(const std::filesystem::path& carpet
                                              std::string_view temporadaEnCurso,
                                              const base::Ajustes& ajustes);
 
+// Las Temporadas de "Hist.rar", sin repetir, en el orden del archivo.
+std::vector<std::string> TemporadasDeHistorico(const std::filesystem::path& carpetaTrabajo);
+
+// Los 68 nombres de las listas de equipos del histórico, de "equipos.txt" de los datos del
+// programa, en su orden; sin el archivo, Error.
+std::vector<std::string> NombresDelHistorico(const std::filesystem::path& carpetaDatos);
+
 // "Añadir del Jlig2 temporada a hist.": los partidos de un "Jlig2.rar" de CarpetaTrabajo, al
 // final de "Hist.rar". Devuelve cuántos.
 int AnadirJlig2AHistorico(const std::filesystem::path& carpetaTrabajo);

@@ -248,8 +248,9 @@ void VentanaPrincipal::CrearMenus() {
     connect(Accion(ver, QStringLiteral("&Columnas Ganadoras"),
                    QStringLiteral("AccionColumnasGanadoras")),
             &QAction::triggered, this, &VentanaPrincipal::ColumnasGanadoras);
-    Accion(ver, QStringLiteral("&Histórico de Resultados"), QStringLiteral("AccionHistorico"),
-           false);
+    connect(
+        Accion(ver, QStringLiteral("&Histórico de Resultados"), QStringLiteral("AccionHistorico")),
+        &QAction::triggered, this, &VentanaPrincipal::HistoricoDeResultados);
     QMenu* resultados = ver->addMenu(QStringLiteral("&Resultados"));
     connect(Accion(resultados, QStringLiteral("De Jornadas de &Liga"),
                    QStringLiteral("AccionResultadosLiga")),

@@ -101,6 +101,8 @@ class VentanaPrincipal : public QMainWindow {
     // "&Estadísticas" y "&Columnas Ganadoras": lo que dicen las columnas de "Jornadas.rar".
     void Estadisticas();
     void ColumnasGanadoras();
+    // "&Histórico de Resultados": los partidos de "Hist.rar".
+    void HistoricoDeResultados();
     void AcercaDe();
 
     // La página Boletos: el conjunto que se juega, el ajuste y los mandatos de salida.

@@ -7,6 +7,7 @@
 #include "seasons/season_folder.h"
 #include "seasons/startup.h"
 #include "ui/base_page.h"
+#include "ui/history_window.h"
 #include "ui/league_fixture_window.h"
 #include "ui/league_results_window.h"
 #include "ui/league_table_window.h"
@@ -91,6 +92,13 @@ void VentanaPrincipal::Estadisticas() {
 
 void VentanaPrincipal::ColumnasGanadoras() {
     AbrirVentana(new VentanaColumnasGanadoras(temporada_.carpetaTemporada, s_.dialogo, this));
+}
+
+void VentanaPrincipal::HistoricoDeResultados() {
+    AbrirVentana(new VentanaHistorico(
+        {s_.carpetaTrabajo, s_.carpetaDatos,
+         seasons::TemporadaDeCarpeta(temporada_.temporadaActual), s_.ajustes, s_.dialogo},
+        this));
 }
 
 void VentanaPrincipal::TemporadaNueva(const QString& etiqueta) {

@@ -235,6 +235,16 @@ TEST(Historico, CambiarNombreNoTocaLaLigaNiLosEquipos) {
     EXPECT_EQ(h.Buscar(BusquedaHistorico::DeEquipo("Real Betis")).size(), 3U);
 }
 
+TEST(Historico, SusTemporadasYLosSesentaYOchoNombres) {
+    Historia h;
+    EXPECT_EQ(TemporadasDeHistorico(h.trabajo.Ruta()),
+              (std::vector<std::string>{"22/23", "23/24"}));
+    const auto nombres = NombresDelHistorico(QUINTEVA_DATOS);
+    ASSERT_EQ(nombres.size(), 68U);
+    EXPECT_EQ(nombres.front(), "Real Madrid");
+    EXPECT_THROW(NombresDelHistorico(h.trabajo.Ruta()), base::Error);
+}
+
 TEST(Historico, AnadirElJlig2DeLaCarpetaDeTrabajo) {
     Historia h;
     {

@@ -17,6 +17,7 @@
 #include "ui/blinking_greeting.h"
 #include "ui/boletos_notice.h"
 #include "ui/failure_report_window.h"
+#include "ui/history_window.h"
 #include "ui/json_file_window.h"
 #include "ui/league_fixture_window.h"
 #include "ui/league_results_window.h"
@@ -217,6 +218,14 @@ class PruebaCapturas : public QObject {
         auto* columnas = v->findChild<ui::VentanaColumnasGanadoras*>();
         QVERIFY(columnas != nullptr);
         Capturar(*columnas, QStringLiteral("ventana_columnas_ganadoras"));
+        columnas->close();
+        Hijo<QAction>(*v, "AccionHistorico")->trigger();
+        auto* historico = v->findChild<ui::VentanaHistorico*>();
+        QVERIFY(historico != nullptr);
+        auto* equipo = Hijo<QComboBox>(*historico, "ListaEquipo1");
+        equipo->setCurrentIndex(equipo->findText(QStringLiteral("Betis")));
+        pruebas::Pulsar(*historico, "BotonBuscar");
+        Capturar(*historico, QStringLiteral("ventana_historico"));
     }
 
     // Cada ventana que se abre desde la página Boletos y los menús, sobre la Combinación dada.

@@ -3,12 +3,15 @@
 #include <QChart>
 #include <QChartView>
 #include <QComboBox>
+#include <QLineEdit>
+#include <QRadioButton>
 #include <QTableWidget>
 #include <QtTest>
 
 #include "seasons/season_folder.h"
 #include "seasons/statistics.h"
 #include "tests/ui/window_fixture.h"
+#include "ui/history_window.h"
 #include "ui/statistics_window.h"
 #include "ui/winning_columns_window.h"
 
@@ -72,6 +75,42 @@ class PruebaVentanasEstadisticas : public QObject {
         auto* imprimir = Hijo<QPushButton>(*ventana, QStringLiteral("BotonImprimir"));
         QVERIFY(!imprimir->isEnabled());
         QVERIFY(!imprimir->toolTip().isEmpty());
+    }
+
+    void ElHistoricoDeUnEquipoYUnCambioDeNombre() {
+        pruebas::Instalacion inst;
+        auto v = inst.Ventana();
+        auto* ventana = pruebas::AbrirDesdeMenu<ui::VentanaHistorico>(*v, "AccionHistorico");
+        auto* tabla = Hijo<QTableWidget>(*ventana, QStringLiteral("TablaHistorico"));
+        pruebas::Pulsar(*ventana, "BotonBuscar");
+        QCOMPARE(inst.dialogo.Textos().back(), std::string(seasons::kMsgEligeEquipo));
+        auto* equipo = Hijo<QComboBox>(*ventana, QStringLiteral("ListaEquipo1"));
+        QCOMPARE(equipo->count(), 68);
+        equipo->setCurrentIndex(equipo->findText(QStringLiteral("Betis")));
+        pruebas::Pulsar(*ventana, "BotonBuscar");
+        const auto esperadas = seasons::BuscarEnHistorico(
+            inst.trabajo.Ruta(), seasons::BusquedaHistorico::DeEquipo("Betis"), "23/24",
+            inst.ajustes);
+        QVERIFY(!esperadas.empty());
+        QCOMPARE(tabla->rowCount(), static_cast<int>(esperadas.size()));
+        QCOMPARE(tabla->item(0, 5)->text().toStdString(), esperadas[0].signo);
+
+        // "Cambiar nombre Eq": el Betis pasa a llamarse Real Betis en todo el histórico.
+        Hijo<QLineEdit>(*ventana, QStringLiteral("CampoNombreExistente"))
+            ->setText(QStringLiteral("Betis"));
+        Hijo<QLineEdit>(*ventana, QStringLiteral("CampoNombreNuevo"))
+            ->setText(QStringLiteral("Real Betis"));
+        pruebas::Pulsar(*ventana, "BotonCambiarNombre");
+        QCOMPARE(inst.dialogo.Textos().back(), std::string("Proceso terminado."));
+        pruebas::Pulsar(*ventana, "BotonBuscar");
+        QCOMPARE(tabla->rowCount(), 0);
+
+        // "Partidos" pide los dos equipos.
+        QTest::mouseClick(Hijo<QRadioButton>(*ventana, QStringLiteral("ModoPartidos")),
+                          Qt::LeftButton, {}, QPoint(8, 8));
+        Hijo<QComboBox>(*ventana, QStringLiteral("ListaEquipo2"))->setCurrentIndex(-1);
+        pruebas::Pulsar(*ventana, "BotonBuscar");
+        QCOMPARE(inst.dialogo.Textos().back(), std::string(seasons::kMsgEligeDosEquipos));
     }
 };
 
