@@ -55,8 +55,11 @@ VentanaHistorico::VentanaHistorico(Entorno entorno, QWidget* madre)
     nuevo_->setObjectName(QStringLiteral("CampoNombreNuevo"));
     nuevo_->setPlaceholderText(QStringLiteral("Nombre Eq nuevo"));
     nuevo_->setMaxLength(15);
-    herramientas->addWidget(existente_);
-    herramientas->addWidget(nuevo_);
+    for (QLineEdit* campo : {existente_, nuevo_}) {
+        campo->setMinimumWidth(campo->fontMetrics().horizontalAdvance(campo->placeholderText()) +
+                               20);
+        herramientas->addWidget(campo);
+    }
     connect(BotonVentana(this, herramientas, QStringLiteral("Cambiar nombre Eq"),
                          QStringLiteral("BotonCambiarNombre")),
             &QPushButton::clicked, this, &VentanaHistorico::CambiarNombre);
