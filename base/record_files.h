@@ -140,4 +140,18 @@ class ArchivoDe {
     ArchivoRegistros archivo_;
 };
 
+// Todos los registros de un archivo de un tipo con kLongitud y DeBytes, de una lectura; si el
+// archivo falta, ninguno (no se crea).
+template <typename Registro>
+std::vector<Registro> LeerTodos(const std::filesystem::path& ruta) {
+    std::vector<Registro> registros;
+    if (!std::filesystem::exists(ruta)) return registros;
+    LectorRegistros lector(ruta, Registro::kLongitud);
+    registros.reserve(static_cast<std::size_t>(lector.Cuenta()));
+    for (auto bytes = lector.Siguiente(); !bytes.empty(); bytes = lector.Siguiente()) {
+        registros.push_back(Registro::DeBytes(bytes));
+    }
+    return registros;
+}
+
 }  // namespace quinteva::base

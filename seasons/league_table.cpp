@@ -20,13 +20,7 @@ namespace {
 template <typename Registro>
 std::vector<Registro> Registros(const fs::path& ruta) {
     if (!fs::exists(ruta)) base::ArchivoDe<Registro>{ruta}.Cerrar();
-    base::LectorRegistros lector(ruta, Registro::kLongitud);
-    std::vector<Registro> registros;
-    registros.reserve(static_cast<std::size_t>(lector.Cuenta()));
-    for (auto bytes = lector.Siguiente(); !bytes.empty(); bytes = lector.Siguiente()) {
-        registros.push_back(Registro::DeBytes(bytes));
-    }
-    return registros;
+    return base::LeerTodos<Registro>(ruta);
 }
 
 std::vector<RegPartidoLiga> Partidos(const fs::path& carpetaTemporada) {

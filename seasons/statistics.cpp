@@ -22,18 +22,6 @@ namespace {
 constexpr std::string_view kSignos = "1X2";
 constexpr std::size_t kSignosColumna = 14;
 
-// Los registros de un archivo que solo se mira: si falta, ninguno (no se crea).
-template <typename Registro>
-std::vector<Registro> Leer(const fs::path& ruta) {
-    std::vector<Registro> registros;
-    if (!fs::exists(ruta)) return registros;
-    base::LectorRegistros lector(ruta, Registro::kLongitud);
-    for (auto bytes = lector.Siguiente(); !bytes.empty(); bytes = lector.Siguiente()) {
-        registros.push_back(Registro::DeBytes(bytes));
-    }
-    return registros;
-}
-
 bool EnBlanco(const RegJornadaQuin& r) { return base::Recortar(r.signos).empty(); }
 
 // Las dos primeras cifras de la Temporada ("13/14" da 13).
@@ -80,7 +68,7 @@ void ExigirBusqueda(const BusquedaHistorico& b) {
 
 SelectorTemporadas TemporadasDeJornadas(const fs::path& carpetaTemporada) {
     SelectorTemporadas selector;
-    for (const auto& r : Leer<RegJornadaQuin>(carpetaTemporada / kJornadas)) {
+    for (const auto& r : base::LeerTodos<RegJornadaQuin>(carpetaTemporada / kJornadas)) {
         const std::string temporada(base::Recortar(r.temporada));
         if (temporada.empty()) continue;
         if (std::find(selector.entradas.begin(), selector.entradas.end(), temporada) ==
@@ -96,7 +84,7 @@ SelectorTemporadas TemporadasDeJornadas(const fs::path& carpetaTemporada) {
 std::vector<RegJornadaQuin> ColumnasDeTemporada(const fs::path& carpetaTemporada,
                                                 std::string_view temporada) {
     std::vector<RegJornadaQuin> columnas;
-    for (const auto& r : Leer<RegJornadaQuin>(carpetaTemporada / kJornadas)) {
+    for (const auto& r : base::LeerTodos<RegJornadaQuin>(carpetaTemporada / kJornadas)) {
         if (EnBlanco(r)) continue;
         if (temporada != kTodas && base::Recortar(r.temporada) != base::Recortar(temporada)) {
             continue;
@@ -169,7 +157,7 @@ std::string EtiquetaCombinacion(const std::vector<int>& posiciones) {
 std::vector<FilaGanadora> ColumnasGanadoras(const fs::path& carpetaTemporada,
                                             std::string_view temporada) {
     std::vector<FilaGanadora> filas;
-    for (const auto& r : Leer<RegJornadaQuin>(carpetaTemporada / kJornadas)) {
+    for (const auto& r : base::LeerTodos<RegJornadaQuin>(carpetaTemporada / kJornadas)) {
         if (base::Recortar(r.temporada) != base::Recortar(temporada)) continue;
         const char letra = r.signos.size() > kSignosColumna ? r.signos[kSignosColumna] : ' ';
         std::string columna = r.signos;
@@ -194,7 +182,7 @@ std::vector<FilaHistorico> BuscarEnHistorico(const fs::path& carpetaTrabajo,
         std::atoi(ajustes.Leer(base::kAplicacion, "Valores", ClaveMaxJor(1), "0").c_str()),
         std::atoi(ajustes.Leer(base::kAplicacion, "Valores", ClaveMaxJor(2), "0").c_str())};
     std::vector<FilaHistorico> filas;
-    for (const auto& p : Leer<RegPartidoLiga>(carpetaTrabajo / kHist)) {
+    for (const auto& p : base::LeerTodos<RegPartidoLiga>(carpetaTrabajo / kHist)) {
         if (!Buscado(p, busqueda)) continue;
         const bool enCurso = base::Recortar(p.temporada) == base::Recortar(temporadaEnCurso);
         if (enCurso && (p.division == 1 || p.division == 2) &&
@@ -211,7 +199,7 @@ std::vector<FilaHistorico> BuscarEnHistorico(const fs::path& carpetaTrabajo,
 
 std::vector<std::string> TemporadasDeHistorico(const fs::path& carpetaTrabajo) {
     std::vector<std::string> temporadas;
-    for (const auto& p : Leer<RegPartidoLiga>(carpetaTrabajo / kHist)) {
+    for (const auto& p : base::LeerTodos<RegPartidoLiga>(carpetaTrabajo / kHist)) {
         const std::string temporada(base::Recortar(p.temporada));
         if (!temporada.empty() &&
             std::find(temporadas.begin(), temporadas.end(), temporada) == temporadas.end()) {
@@ -234,7 +222,7 @@ std::vector<std::string> NombresDelHistorico(const fs::path& carpetaDatos) {
 }
 
 int AnadirJlig2AHistorico(const fs::path& carpetaTrabajo) {
-    const auto partidos = Leer<RegPartidoLiga>(carpetaTrabajo / kJlig2);
+    const auto partidos = base::LeerTodos<RegPartidoLiga>(carpetaTrabajo / kJlig2);
     base::AnexadorRegistros historia(carpetaTrabajo / kHist, RegPartidoLiga::kLongitud);
     for (const auto& p : partidos) historia.Anadir(p.ABytes());
     historia.Cerrar();
