@@ -59,8 +59,8 @@ bool PonerEquipos(seasons::VentanaJornadasLiga& v, const std::vector<std::string
     return true;
 }
 
-// Los goles de cada fila, "L-V" o "-" para dejarla en blanco, en la rejilla de la ventana; todo
-// se comprueba antes de guardar, así que un rechazo no toca los archivos.
+// Los goles de cada fila, "L-V" o "-" para dejarla en blanco, en la rejilla de la ventana; cada
+// fila se comprueba antes de guardar, así que un rechazo no toca los archivos.
 void PonerResultados(seasons::VentanaResultadosLiga& v, const std::string& goles) {
     std::istringstream texto(goles);
     std::vector<std::string> filas{std::istream_iterator<std::string>(texto), {}};

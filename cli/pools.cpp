@@ -8,6 +8,7 @@
 #include "cli/answering_dialog.h"
 #include "cli/commands.h"
 #include "cli/json_output.h"
+#include "seasons/league.h"
 #include "seasons/pools.h"
 #include "seasons/season_folder.h"
 
@@ -18,10 +19,9 @@ constexpr std::string_view kUsoQuiniela = "quiniela --jornada N [--json]";
 constexpr std::string_view kUsoQuinielaResultados =
     "quiniela-resultados --jornada N --signos 1X2... (14) --pleno L-V";
 
-std::string Fecha(double serie) { return base::FormatoFecha(base::SerieAFecha(serie), "dd/MM/yy"); }
-
 void PartidoJson(const seasons::RegPartidoQuin& q, std::ostream& salida) {
-    salida << "{\"Jornada\": " << q.jornada << ", \"Fecha\": " << TextoJson(Fecha(q.fecha))
+    salida << "{\"Jornada\": " << q.jornada
+           << ", \"Fecha\": " << TextoJson(seasons::FechaCorta(q.fecha))
            << ", \"Partido\": " << q.partido
            << ", \"Temporada\": " << TextoJson(base::Recortar(q.temporada))
            << ", \"JornadaDiv1\": " << q.jornadaDiv1 << ", \"JornadaDiv2\": " << q.jornadaDiv2
@@ -56,7 +56,8 @@ int Quiniela(const Argumentos& argumentos, std::ostream& salida) {
         salida << "]\n";
         return 0;
     }
-    salida << "JORNADA " << jornada << ",  Fecha " << Fecha(partidos.front().fecha) << '\n';
+    salida << "JORNADA " << jornada << ",  Fecha " << seasons::FechaCorta(partidos.front().fecha)
+           << '\n';
     for (const auto& q : partidos) {
         salida << q.partido << '\t' << base::Recortar(q.local) << '\t'
                << base::Recortar(q.visitante) << '\t' << q.division << '\t'

@@ -55,6 +55,10 @@ double SerieDeFecha(std::string_view fecha) {
     return base::FechaASerie({2000 + anio, mes, dia});
 }
 
+std::string FechaCorta(double serie) {
+    return base::FormatoFecha(base::SerieAFecha(serie), "dd/MM/yy");
+}
+
 VentanaJornadasLiga::VentanaJornadasLiga(fs::path carpetaTemporada, std::string temporada,
                                          const base::Ajustes& ajustes, base::Dialogo& dialogo)
     : carpetaTemporada_(std::move(carpetaTemporada)),
@@ -83,8 +87,7 @@ void VentanaJornadasLiga::ElegirJornada(int jornada) {
         rejilla_[fila++] = {std::string(base::Recortar(p.local)),
                             std::string(base::Recortar(p.visitante))};
         jornadaExiste_ = true;
-        if (fila == rejilla_.size())
-            fecha_ = base::FormatoFecha(base::SerieAFecha(p.fecha), "dd/MM/yy");
+        if (fila == rejilla_.size()) fecha_ = FechaCorta(p.fecha);
     }
 }
 

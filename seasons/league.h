@@ -98,5 +98,7 @@ bool TeclaDeFecha(char tecla, base::Dialogo& dialogo);
 // "dd/mm/aa" a días desde el 30/12/1899 (años 2000 a 2099); una fecha imposible es el Error "No
 // coinciden los tipos", como la conversión de fechas del sistema.
 double SerieDeFecha(std::string_view fecha);
+// Al revés: la fecha de los registros como la muestran las ventanas, "dd/mm/aa".
+std::string FechaCorta(double serie);
 
 }  // namespace quinteva::seasons

@@ -9,6 +9,7 @@
 #include "base/pleno_letter.h"
 #include "base/record_files.h"
 #include "base/text1252.h"
+#include "seasons/league.h"
 #include "seasons/record_files.h"
 #include "seasons/season_folder.h"
 
@@ -120,7 +121,7 @@ void VentanaResultadosLiga::ElegirJornada(int jornada) {
         rejilla_[fila++] = {std::string(base::Recortar(p.local)),
                             std::string(base::Recortar(p.visitante)), std::to_string(p.golesLocal),
                             std::to_string(p.golesVisitante)};
-        fecha_ = base::FormatoFecha(base::SerieAFecha(p.fecha), "dd/MM/yy");
+        fecha_ = FechaCorta(p.fecha);
     }
 }
 

@@ -23,10 +23,6 @@ namespace {
 
 constexpr std::string_view kSiglo = "20";
 
-std::string TextoFecha(double serie) {
-    return base::FormatoFecha(base::SerieAFecha(serie), "dd/MM/yy");
-}
-
 // Los registros de "Jquin.rar" de una Jornada con Siglo "20", uno por fila del boleto (desde
 // Partido 1), hasta quince.
 template <typename Fila>
@@ -98,7 +94,7 @@ void VentanaJornadasQuiniela::ElegirJornada(int jornada) {
             q.division};
         jornadasLiga_ = {q.jornadaDiv1 == 0 ? "" : std::to_string(q.jornadaDiv1),
                          q.jornadaDiv2 == 0 ? "" : std::to_string(q.jornadaDiv2)};
-        fecha_ = TextoFecha(q.fecha);
+        fecha_ = FechaCorta(q.fecha);
         existe_ = true;
     });
 }
@@ -271,7 +267,7 @@ void VentanaResultadosQuiniela::ElegirJornada(int jornada) {
         }
         rejilla_[static_cast<std::size_t>(q.partido - 1)] = {
             std::string(base::Recortar(q.local)), std::string(base::Recortar(q.visitante)), signo};
-        fecha_ = TextoFecha(q.fecha);
+        fecha_ = FechaCorta(q.fecha);
     });
 }
 

@@ -17,7 +17,7 @@ namespace quinteva::seasons {
 inline constexpr std::string_view kMsgErrorVersion = "Error al comprobar versión";
 
 // Lo que dicen las páginas del servidor del editor: HTML con el texto útil entre "<BODY>" y
-// "</BODY>". Todo lo de aquí lee datos de fuera: nada de lo que llegue hace fallar al programa.
+// "</BODY>". Estas funciones leen datos de fuera: nada de lo que llegue hace fallar al programa.
 
 // El cuerpo: empieza 9 caracteres después del primero de "<BODY>" y mide la distancia entre las
 // dos marcas menos 11. Sin las dos marcas en su orden, nada; si la cuenta no deja texto, vacío.

@@ -7,6 +7,7 @@
 #include "base/formats.h"
 #include "base/record_files.h"
 #include "base/text1252.h"
+#include "seasons/league.h"
 #include "seasons/record_files.h"
 #include "seasons/season_folder.h"
 
@@ -82,7 +83,7 @@ JornadaQuiniela LeerJornadaQuiniela(const std::filesystem::path& carpetaTemporad
         partido.equipos =
             std::string(base::Recortar(r.local)) + " - " + std::string(base::Recortar(r.visitante));
         partido.division = r.division;
-        j.fecha = base::FormatoFecha(base::SerieAFecha(r.fecha), "dd/MM/yy");
+        j.fecha = FechaCorta(r.fecha);
     }
     return j;
 }

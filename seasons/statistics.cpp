@@ -11,6 +11,7 @@
 #include "base/pleno_letter.h"
 #include "base/record_files.h"
 #include "base/text1252.h"
+#include "seasons/league.h"
 #include "seasons/league_results.h"
 #include "seasons/season_folder.h"
 
@@ -189,8 +190,7 @@ std::vector<FilaHistorico> BuscarEnHistorico(const fs::path& carpetaTrabajo,
             p.jornada > ultima[static_cast<std::size_t>(p.division - 1)]) {
             continue;
         }
-        filas.push_back({base::FormatoFecha(base::SerieAFecha(p.fecha), "dd/MM/yy"),
-                         std::string(base::Recortar(p.local)),
+        filas.push_back({FechaCorta(p.fecha), std::string(base::Recortar(p.local)),
                          std::string(base::Recortar(p.visitante)), p.golesLocal, p.golesVisitante,
                          SignoDeGoles(p.golesLocal, p.golesVisitante)});
     }

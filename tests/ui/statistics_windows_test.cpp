@@ -95,7 +95,7 @@ class PruebaVentanasEstadisticas : public QObject {
         QCOMPARE(tabla->rowCount(), static_cast<int>(esperadas.size()));
         QCOMPARE(tabla->item(0, 5)->text().toStdString(), esperadas[0].signo);
 
-        // "Cambiar nombre Eq": el Betis pasa a llamarse Real Betis en todo el histórico.
+        // "Cambiar nombre Eq": el Betis pasa a llamarse Real Betis en cada partido del histórico.
         Hijo<QLineEdit>(*ventana, QStringLiteral("CampoNombreExistente"))
             ->setText(QStringLiteral("Betis"));
         Hijo<QLineEdit>(*ventana, QStringLiteral("CampoNombreNuevo"))
