@@ -29,6 +29,12 @@ std::optional<std::string> CuerpoDeRespuesta(std::string_view html) {
     return std::string(html.substr(abre + kInicio, distancia - kMenos));
 }
 
+std::string PaginaDeRespuesta(std::string_view cuerpo) {
+    std::string pagina = "<HTML><HEAD><TITLE>Quinteva</TITLE></HEAD>";
+    pagina.append(kAbre).append("\r\n ").append(cuerpo).append("\r\n").append(kCierra);
+    return pagina.append("</HTML>");
+}
+
 std::optional<std::string> CarpetaDeActualizacion(std::string_view html) {
     const auto cuerpo = CuerpoDeRespuesta(html);
     if (!cuerpo || cuerpo->empty() || cuerpo->front() != '1') return std::nullopt;

@@ -23,6 +23,10 @@ inline constexpr std::string_view kMsgErrorVersion = "Error al comprobar versió
 // dos marcas menos 11. Sin las dos marcas en su orden, nada; si la cuenta no deja texto, vacío.
 std::optional<std::string> CuerpoDeRespuesta(std::string_view html);
 
+// La página que da el servidor con su cuerpo donde lo busca el programa (la inversa de la
+// anterior).
+std::string PaginaDeRespuesta(std::string_view cuerpo);
+
 // La respuesta de "/QVactualizar.asp": con el código 1, la carpeta que sigue hasta "#"; si no,
 // nada (la actualización no hace nada).
 std::optional<std::string> CarpetaDeActualizacion(std::string_view html);

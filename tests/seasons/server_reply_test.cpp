@@ -11,10 +11,7 @@
 namespace quinteva::seasons {
 namespace {
 
-std::string Pagina(std::string_view cuerpo) {
-    return "<HTML><HEAD><TITLE>x</TITLE></HEAD><BODY>\r\n " + std::string(cuerpo) +
-           "\r\n</BODY></HTML>";
-}
+std::string Pagina(std::string_view cuerpo) { return PaginaDeRespuesta(cuerpo); }
 
 TEST(RespuestaServidor, ElCuerpoEntreLasMarcasConSusDesplazamientos) {
     EXPECT_EQ(CuerpoDeRespuesta(Pagina("1Temporadas#")), "1Temporadas#");
