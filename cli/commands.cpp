@@ -82,6 +82,12 @@ std::span<const Subcomando> Subcomandos() {
          "\"Histórico de Resultados\": los partidos de un equipo, de dos, o de una Jornada.",
          {{"equipo", "equipos", "temporada", "division", "jornada"}, {}},
          &Historico},
+        {"actualizar",
+         "actualizar --servidor URL",
+         "\"Actualización por Internet\": los archivos de la temporada del servidor del editor, "
+         "con sus pasos y mensajes en stderr.",
+         {{"servidor"}, {}},
+         &Actualizar},
         {"quiniela",
          "quiniela --jornada N [--json]",
          "Los partidos de una Jornada de Quinielas de \"Jquin.rar\", con su fecha y sus signos.",
