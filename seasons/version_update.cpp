@@ -76,34 +76,34 @@ bool ComprobarVersionAlArrancar(base::Red& red, base::Dialogo& dialogo,
     return dialogo.PreguntaSiNo(kPreguntaVersionAlArrancar) == base::Respuesta::Si;
 }
 
-std::int32_t ActualizarVersion(base::Red& red, base::Dialogo& dialogo, base::Ajustes& ajustes,
-                               base::ExpansorZip& expansor, const PeticionVersion& peticion,
-                               const VerCambios& verCambios) {
+ResultadoVersion ActualizarVersion(base::Red& red, base::Dialogo& dialogo, base::Ajustes& ajustes,
+                                   base::ExpansorZip& expansor, const PeticionVersion& peticion,
+                                   const VerCambios& verCambios) {
     const auto carpeta = PedirCarpetaDeDescarga(red, dialogo).carpeta;
-    if (!carpeta) return 0;
+    if (!carpeta) return {};
     const auto& trabajo = peticion.carpetaTrabajo;
     if (!Traer(red, *carpeta, kListaVersiones, trabajo) ||
         !Traer(red, *carpeta, kCambios, trabajo)) {
         dialogo.Mensaje(kMsgSinDescargaVersion, base::Icono::Error);
-        return 0;
+        return {};
     }
     const ListaDeVersiones lista =
         LeerListaDeVersiones(trabajo / kListaVersiones, peticion.versionPrograma);
-    if (lista.ultima <= peticion.versionPrograma) return 0;
+    const ResultadoVersion sinTraspaso{lista.ultima, false};
+    if (lista.ultima <= peticion.versionPrograma) return sinTraspaso;
 
     if (dialogo.PreguntaSiNo(kPreguntaVerCambios) == base::Respuesta::Si &&
         verCambios(LeerTexto1252(trabajo / kCambios)) == EleccionCambios::NoActualizar) {
         ajustes.Guardar(base::kAplicacion, kSeccion, kClaveNoActualizar,
                         std::to_string(lista.ultima));
-        return 0;
+        return sinTraspaso;
     }
     if (peticion.instalacion == Instalacion::GestorDePaquetes) {
         dialogo.Mensaje(kMsgGestorDePaquetes);
-        return 0;
+        return sinTraspaso;
     }
-    if (dialogo.AceptarCancelar(kAvisoInstalacion) != base::Respuesta::Aceptar) return 0;
-    if (!TraerArchivos(red, dialogo, expansor, *carpeta, lista, trabajo)) return 0;
-    return lista.ultima;
+    if (dialogo.AceptarCancelar(kAvisoInstalacion) != base::Respuesta::Aceptar) return sinTraspaso;
+    return {lista.ultima, TraerArchivos(red, dialogo, expansor, *carpeta, lista, trabajo)};
 }
 
 }  // namespace quinteva::seasons

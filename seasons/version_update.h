@@ -58,11 +58,18 @@ struct PeticionVersion {
     Instalacion instalacion = Instalacion::ConActualizador;
 };
 
+// Lo que deja la actualización del programa: la versión del servidor (0 si no se supo) y si los
+// archivos están traídos y hay que pasar al actualizador.
+struct ResultadoVersion {
+    std::int32_t enServidor = 0;
+    bool traspasar = false;
+};
+
 // La actualización del programa: la lista de versiones y los cambios, las preguntas, los archivos
 // que cambiaron desde la versión del programa (los ".zip" se expanden; un fallo al expandir se
-// dice y se sigue). Devuelve la versión del servidor cuando hay que pasar al actualizador, 0 si no.
-std::int32_t ActualizarVersion(base::Red& red, base::Dialogo& dialogo, base::Ajustes& ajustes,
-                               base::ExpansorZip& expansor, const PeticionVersion& peticion,
-                               const VerCambios& verCambios);
+// dice y se sigue).
+ResultadoVersion ActualizarVersion(base::Red& red, base::Dialogo& dialogo, base::Ajustes& ajustes,
+                                   base::ExpansorZip& expansor, const PeticionVersion& peticion,
+                                   const VerCambios& verCambios);
 
 }  // namespace quinteva::seasons

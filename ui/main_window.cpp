@@ -29,6 +29,7 @@
 #include "engine/editing_rules.h"
 #include "engine/pricing.h"
 #include "seasons/demo_season.h"
+#include "seasons/version_update.h"
 #include "ui/base_page.h"
 #include "ui/boletos_notice.h"
 #include "ui/conditions_page.h"
@@ -81,11 +82,10 @@ VentanaPrincipal::VentanaPrincipal(Servicios servicios, QWidget* madre)
     statusBar()->addPermanentWidget(temporadaEtiqueta_);
     refresco_.setInterval(kRefresco);
     connect(&refresco_, &QTimer::timeout, this, &VentanaPrincipal::RefrescarProgreso);
-    // La comprobación de versión por la red llega más adelante: sin servidor configurado el
-    // temporizador no tiene nada que preguntar.
     temporizadorVersion_.setObjectName(QStringLiteral("TemporizadorVersion"));
     temporizadorVersion_.setSingleShot(true);
     temporizadorVersion_.setInterval(3000);
+    connect(&temporizadorVersion_, &QTimer::timeout, this, &VentanaPrincipal::ComprobarVersion);
     connect(&trabajo_, &TrabajoEnSegundoPlano::fallo, this, [this](const QString& error) {
         refresco_.stop();
         ajustando_ = false;
@@ -258,8 +258,9 @@ void VentanaPrincipal::CrearMenus() {
     connect(Accion(resultados, QStringLiteral("De Jornadas de &Quinielas"),
                    QStringLiteral("AccionResultadosQuiniela")),
             &QAction::triggered, this, &VentanaPrincipal::ResultadosQuiniela);
-    Accion(resultados, QStringLiteral("Actualización por Internet"),
-           QStringLiteral("AccionActualizacionInternet"), false);
+    connect(Accion(resultados, QStringLiteral("Actualización por Internet"),
+                   QStringLiteral("AccionActualizacionInternet")),
+            &QAction::triggered, this, &VentanaPrincipal::ActualizacionPorInternet);
     connect(
         Accion(ver, QStringLiteral("&Clasificaciones"), QStringLiteral("AccionClasificaciones")),
         &QAction::triggered, this, &VentanaPrincipal::Clasificaciones);
@@ -278,8 +279,9 @@ void VentanaPrincipal::CrearMenus() {
     connect(Accion(herramientas, QStringLiteral("&Leer o modificar archivo JSON"),
                    QStringLiteral("AccionJson")),
             &QAction::triggered, this, &VentanaPrincipal::ArchivoJson);
-    Accion(herramientas, QStringLiteral("&Actualización del programa"),
-           QStringLiteral("AccionActualizacion"), false);
+    connect(Accion(herramientas, QStringLiteral("&Actualización del programa"),
+                   QStringLiteral("AccionActualizacion")),
+            &QAction::triggered, this, &VentanaPrincipal::ActualizacionDelPrograma);
     connect(Accion(herramientas, QStringLiteral("&Opciones"), QStringLiteral("AccionOpciones")),
             &QAction::triggered, this, &VentanaPrincipal::Opciones);
 
@@ -339,6 +341,7 @@ void VentanaPrincipal::CrearBarra() {
 void VentanaPrincipal::Arrancar(const std::optional<fs::path>& argumento) {
     try {
         QDir::setCurrent(QString::fromStdString(s_.carpetaPrograma.string()));
+        seasons::GuardarVersionDelPrograma(s_.ajustes);
         seasons::InstalarTemporadaDemo(s_.carpetaDatos, s_.carpetaTrabajo);
         temporada_ = seasons::PrepararTemporada(s_.carpetaPrograma, s_.carpetaTrabajo, s_.ajustes);
         temporadaEtiqueta_->setText(Q(temporada_.temporadaActual));

@@ -16,6 +16,7 @@
 #include "seasons/startup.h"
 #include "ui/background_work.h"
 #include "ui/cross_thread_dialog.h"
+#include "ui/network_flow.h"
 #include "ui/reduction_seam.h"
 
 class QAction;
@@ -103,6 +104,9 @@ class VentanaPrincipal : public QMainWindow {
     void ColumnasGanadoras();
     // "&Histórico de Resultados": los partidos de "Hist.rar".
     void HistoricoDeResultados();
+    // "Actualización por Internet" (los archivos de la temporada) y "&Actualización del programa".
+    void ActualizacionPorInternet();
+    void ActualizacionDelPrograma();
     void AcercaDe();
 
     // La página Boletos: el conjunto que se juega, el ajuste y los mandatos de salida.
@@ -222,6 +226,11 @@ class VentanaPrincipal : public QMainWindow {
     TrabajoEnSegundoPlano trabajo_;
     QTimer refresco_;
     QTimer temporizadorVersion_;
+    // La comprobación de versión del arranque; solo existe si hay servidor.
+    FlujoDeRed* comprobacionVersion_ = nullptr;
+    void ComprobarVersion();
+    // Tras una actualización por Internet: los equipos y las Jornadas de los archivos nuevos.
+    void RecargarTemporada();
     bool reduciendo_ = false;
     bool ajustando_ = false;
     builders::Ajuste ajuste_;

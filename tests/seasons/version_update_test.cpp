@@ -62,8 +62,8 @@ class ActualizacionDelPrograma : public ::testing::Test {
         }
     }
 
-    std::int32_t Actualizar(Instalacion instalacion = Instalacion::ConActualizador,
-                            EleccionCambios eleccion = EleccionCambios::Seguir) {
+    ResultadoVersion Actualizar(Instalacion instalacion = Instalacion::ConActualizador,
+                                EleccionCambios eleccion = EleccionCambios::Seguir) {
         return ActualizarVersion(red, dialogo, ajustes, expansor,
                                  {trabajo.Ruta(), kVersionPrograma, instalacion},
                                  [&](std::string_view texto) {
@@ -123,14 +123,14 @@ TEST_F(ActualizacionDelPrograma,
     EXPECT_TRUE(dialogo.Registro().empty());
 
     dialogo.Responder(Respuesta::No).Responder(Respuesta::Cancelar);
-    EXPECT_EQ(Actualizar(), 0);
+    EXPECT_FALSE(Actualizar().traspasar);
     EXPECT_EQ(dialogo.Textos(), (std::vector<std::string>{std::string(kPreguntaVerCambios),
                                                           std::string(kAvisoInstalacion)}));
 }
 
 TEST_F(ActualizacionDelPrograma, TraeLoQueCambioDesdeLaVersionDelProgramaYExpandeLosZip) {
     dialogo.Responder(Respuesta::Si).Responder(Respuesta::Aceptar);
-    EXPECT_EQ(Actualizar(), 215000);
+    EXPECT_TRUE(Actualizar().traspasar);
     EXPECT_EQ(cambiosVistos, "Versión 215000: más rápida");
     EXPECT_EQ(Descargas(), (std::vector<std::string>{"VersionQVPr.txt", "CambiosQVPr.txt",
                                                      "Quinteva.zip", "Ayuda.zip", "Notas.txt"}));
@@ -144,41 +144,43 @@ TEST_F(ActualizacionDelPrograma, TraeLoQueCambioDesdeLaVersionDelProgramaYExpand
 TEST_F(ActualizacionDelPrograma, UnZipQueNoSeExpandeSeDiceYSeSigue) {
     expansor.queFalla = "Quinteva.zip";
     dialogo.Responder(Respuesta::No).Responder(Respuesta::Aceptar);
-    EXPECT_EQ(Actualizar(), 215000);
+    EXPECT_TRUE(Actualizar().traspasar);
     EXPECT_EQ(dialogo.Textos().back(), "El archivo Quinteva.zip está dañado");
     EXPECT_EQ(Descargas().back(), "Notas.txt");
 }
 
 TEST_F(ActualizacionDelPrograma, NoActualizarEnLosCambiosGuardaLaVersion) {
     dialogo.Responder(Respuesta::Si);
-    EXPECT_EQ(Actualizar(Instalacion::ConActualizador, EleccionCambios::NoActualizar), 0);
+    EXPECT_FALSE(Actualizar(Instalacion::ConActualizador, EleccionCambios::NoActualizar).traspasar);
     EXPECT_EQ(NoActualizar(ajustes), "215000");
     EXPECT_EQ(Descargas().size(), 2U);
 }
 
 TEST_F(ActualizacionDelPrograma, ConElGestorDePaquetesSeLeRemiteAEl) {
     dialogo.Responder(Respuesta::No);
-    EXPECT_EQ(Actualizar(Instalacion::GestorDePaquetes), 0);
+    EXPECT_FALSE(Actualizar(Instalacion::GestorDePaquetes).traspasar);
     EXPECT_EQ(dialogo.Textos().back(), kMsgGestorDePaquetes);
     EXPECT_EQ(Descargas().size(), 2U);
 }
 
 TEST_F(ActualizacionDelPrograma, SinListaDeVersionesElMensajeDeLaConexion) {
     red.archivos.erase("/Prog/Quinteva/VersionQVPr.txt");
-    EXPECT_EQ(Actualizar(), 0);
+    EXPECT_EQ(Actualizar().enServidor, 0);
     EXPECT_EQ(dialogo.Textos(), std::vector<std::string>{std::string(kMsgSinDescargaVersion)});
 }
 
 TEST_F(ActualizacionDelPrograma, UnaVersionQueNoEsMayorAcabaSinPreguntar) {
     red.archivos["/Prog/Quinteva/VersionQVPr.txt"] = ListaDeVersiones({{"", "", "", 210000}});
-    EXPECT_EQ(Actualizar(), 0);
+    const auto resultado = Actualizar();
+    EXPECT_EQ(resultado.enServidor, 210000);
+    EXPECT_FALSE(resultado.traspasar);
     EXPECT_TRUE(dialogo.Registro().empty());
 }
 
 TEST_F(ActualizacionDelPrograma, UnArchivoQueNoLlegaParaSinTraspasar) {
     red.archivos.erase("/Prog/Quinteva/Ayuda.zip");
     dialogo.Responder(Respuesta::No).Responder(Respuesta::Aceptar);
-    EXPECT_EQ(Actualizar(), 0);
+    EXPECT_FALSE(Actualizar().traspasar);
     EXPECT_EQ(dialogo.Textos().back(), kMsgSinDescargaVersion);
     EXPECT_EQ(Descargas().back(), "Ayuda.zip");
 }

@@ -76,7 +76,8 @@ class PruebaVentanaPrincipal : public QObject {
         QVERIFY(Hijo<QAction>(*v, "AccionNueva")->isEnabled());
         QVERIFY(Hijo<QAction>(*v, "AccionOpciones")->isEnabled());
         QVERIFY(Hijo<QAction>(*v, "AccionEstadisticas")->isEnabled());
-        QVERIFY(!Hijo<QAction>(*v, "AccionActualizacionInternet")->isEnabled());
+        QVERIFY(Hijo<QAction>(*v, "AccionActualizacionInternet")->isEnabled());
+        QVERIFY(Hijo<QAction>(*v, "AccionActualizacion")->isEnabled());
         QVERIFY(!Hijo<QAction>(*v, "AccionRefundir")->isEnabled());
         QVERIFY(!Hijo<QAction>(*v, "AccionGuardar")->isEnabled());
         QCOMPARE(Hijo<QAction>(*v, "AccionGuardarComo")->text(), QStringLiteral("G&uardar como"));
