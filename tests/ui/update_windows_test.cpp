@@ -38,8 +38,9 @@ struct Editor {
     pruebas::CarpetaTemporal carpeta;
     fs::path publicados = carpeta / "descargas" / "Quinteva";
 
-    explicit Editor(const fs::path& temporada) {
-        fs::create_directories(publicados);
+    Editor() { fs::create_directories(publicados); }
+
+    void Temporada(const fs::path& temporada) const {
         for (const auto nombre : {seasons::kJlig2, seasons::kJquin, seasons::kNomeq}) {
             fs::copy_file(temporada / nombre, publicados / nombre);
         }
@@ -88,7 +89,8 @@ class PruebaVentanasActualizacion : public QObject {
         pruebas::Instalacion inst;
         auto v = inst.Ventana();
         const fs::path temporada = v->Temporada().carpetaTemporada;
-        Editor editor(temporada);
+        Editor editor;
+        editor.Temporada(temporada);
         pruebas::ServidorPublicando servidor(QUINTEVA_SERVIDOR, editor.carpeta.Ruta());
         auto* ventana = pruebas::AbrirDesdeMenu<ui::VentanaActualizacionTemporada>(
             *v, "AccionActualizacionInternet");
@@ -128,7 +130,7 @@ class PruebaVentanasActualizacion : public QObject {
 
     void LaVersionNuevaSeOfreceAlArrancar() {
         pruebas::Instalacion inst;
-        Editor editor(inst.programa.Ruta());
+        Editor editor;
         editor.Version({});
         pruebas::ServidorPublicando servidor(QUINTEVA_SERVIDOR, editor.carpeta.Ruta());
         seasons::GuardarServidorDeActualizaciones(inst.ajustes, servidor.Direccion());
@@ -142,7 +144,7 @@ class PruebaVentanasActualizacion : public QObject {
 
     void NoActualizarCallaAlArrancarPeroLaVentanaLaEncuentra() {
         pruebas::Instalacion inst;
-        Editor editor(inst.programa.Ruta());
+        Editor editor;
         editor.Version({});
         pruebas::ServidorPublicando servidor(QUINTEVA_SERVIDOR, editor.carpeta.Ruta());
         seasons::GuardarServidorDeActualizaciones(inst.ajustes, servidor.Direccion());
@@ -164,7 +166,7 @@ class PruebaVentanasActualizacion : public QObject {
 
     void UnZipMaloSeDiceYLosDemasSeExpanden() {
         pruebas::Instalacion inst;
-        Editor editor(inst.programa.Ruta());
+        Editor editor;
         // Uno que no es un zip, uno con una entrada que saldría de la carpeta y uno bueno.
         std::ofstream(editor.publicados / "Malo.zip") << "esto no es un zip";
         {
