@@ -9,13 +9,17 @@
 #include <QtTest>
 
 #include "engine/analysis.h"
+#include "seasons/update.h"
+#include "tests/support/publisher_process.h"
 #include "tests/ui/hits_fixture.h"
+#include "tests/ui/publisher_fixture.h"
 #include "tests/ui/window_fixture.h"
 #include "ui/add_columns_window.h"
 #include "ui/analysis_window.h"
 #include "ui/bets_list_window.h"
 #include "ui/blinking_greeting.h"
 #include "ui/boletos_notice.h"
+#include "ui/changes_window.h"
 #include "ui/failure_report_window.h"
 #include "ui/history_window.h"
 #include "ui/json_file_window.h"
@@ -28,8 +32,10 @@
 #include "ui/pools_results_window.h"
 #include "ui/pools_slip_window.h"
 #include "ui/pools_view_window.h"
+#include "ui/program_update_window.h"
 #include "ui/remove_columns_window.h"
 #include "ui/report_windows.h"
+#include "ui/season_update_window.h"
 #include "ui/spanish_texts.h"
 #include "ui/statistics_window.h"
 #include "ui/teams_window.h"
@@ -226,6 +232,39 @@ class PruebaCapturas : public QObject {
         equipo->setCurrentIndex(equipo->findText(QStringLiteral("Betis")));
         pruebas::Pulsar(*historico, "BotonBuscar");
         Capturar(*historico, QStringLiteral("ventana_historico"));
+    }
+
+    // La actualización por Internet contra quinteva-servidor: al abrir y al acabar; la del
+    // programa con la versión del servidor, y sus modificaciones.
+    void VentanasDeActualizacion() {
+        pruebas::Instalacion inst;
+        auto v = inst.Ventana();
+        pruebas::Editor editor;
+        editor.Temporada(v->Temporada().carpetaTemporada);
+        editor.Version({});
+        pruebas::ServidorPublicando servidor(QUINTEVA_SERVIDOR, editor.carpeta.Ruta());
+        auto* temporada = pruebas::AbrirDesdeMenu<ui::VentanaActualizacionTemporada>(
+            *v, "AccionActualizacionInternet");
+        Capturar(*temporada, QStringLiteral("ventana_actualizacion_temporada_al_abrir"));
+        Hijo<QLineEdit>(*temporada, "Servidor")
+            ->setText(QString::fromStdString(servidor.Direccion()));
+        pruebas::Pulsar(*temporada, "BotonActualizar");
+        QTRY_COMPARE(pruebas::TextoDe(*temporada, "PasoFinal"),
+                     QStringLiteral("Actualización completa !!"));
+        Capturar(*temporada, QStringLiteral("ventana_actualizacion_temporada"));
+        temporada->close();
+        inst.dialogo.Responder(base::Respuesta::No);
+        auto* programa =
+            pruebas::AbrirDesdeMenu<ui::VentanaActualizacionPrograma>(*v, "AccionActualizacion");
+        QTRY_VERIFY(
+            !pruebas::TextoDe(*programa, "VersionServidor").startsWith(QStringLiteral("Comp")));
+        Capturar(*programa, QStringLiteral("ventana_actualizacion_programa"));
+        programa->close();
+        ui::VentanaCambios cambios(
+            QStringLiteral("Versión 215000\n\n- Las estadísticas por temporada.\n- La "
+                           "actualización por Internet."),
+            v.get());
+        Capturar(cambios, QStringLiteral("ventana_cambios_version"));
     }
 
     // Cada ventana que se abre desde la página Boletos y los menús, sobre la Combinación dada.

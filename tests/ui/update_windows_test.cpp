@@ -16,47 +16,19 @@
 #include "seasons/update.h"
 #include "seasons/version_update.h"
 #include "tests/support/publisher_process.h"
+#include "tests/ui/publisher_fixture.h"
 #include "tests/ui/window_fixture.h"
 #include "ui/net_window.h"
 #include "ui/program_update_window.h"
 #include "ui/season_update_window.h"
 
 using namespace quinteva;
+using pruebas::Editor;
 using pruebas::Hijo;
+using pruebas::Leer;
 namespace fs = std::filesystem;
 
 namespace {
-
-std::string Leer(const fs::path& ruta) {
-    std::ifstream f(ruta, std::ios::binary);
-    return {std::istreambuf_iterator<char>(f), {}};
-}
-
-// Lo que publica el editor: la temporada de la instalación con "Jornadas.rar" recortado (así se
-// distingue), un histórico y la lista de versiones con la 215000 y sus archivos.
-struct Editor {
-    pruebas::CarpetaTemporal carpeta;
-    fs::path publicados = carpeta / "descargas" / "Quinteva";
-
-    Editor() { fs::create_directories(publicados); }
-
-    void Temporada(const fs::path& temporada) const {
-        for (const auto nombre : {seasons::kJlig2, seasons::kJquin, seasons::kNomeq}) {
-            fs::copy_file(temporada / nombre, publicados / nombre);
-        }
-        const std::string jornadas = Leer(temporada / seasons::kJornadas);
-        std::ofstream(publicados / seasons::kJornadas, std::ios::binary)
-            << jornadas.substr(0, jornadas.size() / 2);
-        std::ofstream(publicados / seasons::kHist, std::ios::binary) << "historico";
-    }
-
-    void Version(const std::vector<seasons::RegVersion>& archivos) const {
-        base::ArchivoDe<seasons::RegVersion> lista(publicados / "VersionQVPr.txt");
-        lista.Anadir({"", "", "", 215000});
-        for (const auto& r : archivos) lista.Anadir(r);
-        std::ofstream(publicados / "CambiosQVPr.txt") << "Más rápida.";
-    }
-};
 
 bool SinRed(QObject& ventana) { return ventana.findChildren<QNetworkAccessManager*>().isEmpty(); }
 
