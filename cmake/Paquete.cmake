@@ -12,5 +12,6 @@ set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SECTION games)
 set(CPACK_DEBIAN_PACKAGE_DEPENDS
     "libc6, libgcc-s1, libstdc++6, libqt6core6, libqt6gui6, libqt6widgets6, libqt6printsupport6, \
-libqt6charts6, libqt6network6, qt6-qpa-plugins, qt6-translations-l10n")
+libqt6charts6, libqt6network6, libquazip1-qt6-1, libcpp-httplib0.11, qt6-qpa-plugins, \
+qt6-translations-l10n")
 include(CPack)

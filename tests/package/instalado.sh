@@ -32,7 +32,7 @@ case "$modo" in
     dpkg-deb -f "$deb" Depends | tr ',' '\n' | sed 's/(.*//; s/[[:space:]]//g' >"$trabajo/pide"
     source "$raiz/scripts/paquetes_debian.sh"
     cierre_de_la_lista "$trabajo/pide" >"$trabajo/cierre"
-    for ejecutable in "$prefijo/bin/quinteva" "$prefijo/bin/quinteva-cli"; do
+    for ejecutable in "$prefijo"/bin/quinteva{,-cli,-servidor}; do
       ldd "$ejecutable" | sed -n 's/.*=> \(\/[^ ]*\) .*/\1/p'
     done | sort -u >"$trabajo/bibliotecas"
     duenos_de_archivos <"$trabajo/bibliotecas" |
@@ -45,7 +45,7 @@ case "$modo" in
   *) falla "Uso: instalado.sh prefijo|deb CARPETA_COMPILACION" ;;
 esac
 
-for archivo in bin/quinteva bin/quinteva-cli share/quinteva/equipos.txt \
+for archivo in bin/quinteva bin/quinteva-cli bin/quinteva-servidor share/quinteva/equipos.txt \
   share/quinteva/temporada_demo/Tempor.rar share/quinteva/temporada_demo/Jquin.rar \
   share/applications/quinteva.desktop share/icons/hicolor/scalable/apps/quinteva.svg; do
   [ -f "$prefijo/$archivo" ] || falla "Falta $archivo en lo instalado"
