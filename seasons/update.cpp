@@ -15,15 +15,6 @@ namespace {
 constexpr std::string_view kSeccion = "Opciones";
 constexpr std::string_view kClaveServidor = "ServidorActualizaciones";
 
-// Trae un archivo a la carpeta de trabajo: bien si la descarga da 0 y el archivo está.
-bool Traer(base::Red& red, std::string_view carpeta, std::string_view fichero,
-           const std::filesystem::path& carpetaTrabajo) {
-    const auto destino = carpetaTrabajo / fichero;
-    std::error_code error;
-    return red.Descargar(RutaEnServidor(carpeta, fichero), destino) == 0 &&
-           std::filesystem::exists(destino, error);
-}
-
 void Borrar(const std::filesystem::path& ruta) {
     std::error_code error;
     std::filesystem::remove(ruta, error);
@@ -80,6 +71,14 @@ std::string RutaEnServidor(std::string_view carpeta, std::string_view fichero) {
     return ruta;
 }
 
+bool TraerArchivo(base::Red& red, std::string_view carpeta, std::string_view fichero,
+                  const std::filesystem::path& carpetaTrabajo) {
+    const auto destino = carpetaTrabajo / base::Recortar(fichero);
+    std::error_code error;
+    return red.Descargar(RutaEnServidor(carpeta, fichero), destino) == 0 &&
+           std::filesystem::exists(destino, error);
+}
+
 std::string TextoErrorDeConexion(const base::Pagina& pagina) {
     return "Error: " + std::to_string(pagina.error) + ":" + pagina.textoError;
 }
@@ -106,13 +105,13 @@ bool ActualizarTemporada(base::Red& red, base::Dialogo& dialogo,
         Borrar(carpetaTrabajo / nombre);
     }
     for (const std::string_view nombre : {kJlig2, kJquin, kJornadas, kNomeq}) {
-        if (!Traer(red, *carpeta, nombre, carpetaTrabajo)) {
+        if (!TraerArchivo(red, *carpeta, nombre, carpetaTrabajo)) {
             dialogo.Mensaje(kMsgSinDescarga, base::Icono::Error);
             return false;
         }
     }
     // "Hist.rar" vive en la carpeta de trabajo: si no llega, se sigue sin él.
-    Traer(red, *carpeta, kHist, carpetaTrabajo);
+    TraerArchivo(red, *carpeta, kHist, carpetaTrabajo);
 
     paso(PasoActualizacion::Actualizando);
     for (const std::string_view nombre : {kJlig2, kJquin, kJornadas, kNomeq}) {

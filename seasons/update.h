@@ -27,6 +27,11 @@ void GuardarServidorDeActualizaciones(base::Ajustes& ajustes, std::string_view s
 // La ruta de un archivo publicado: carpeta & "/Quinteva/" & fichero.
 std::string RutaEnServidor(std::string_view carpeta, std::string_view fichero);
 
+// Trae un archivo publicado (nombre recortado) a la carpeta de trabajo: bien si la descarga da 0
+// y el archivo está.
+bool TraerArchivo(base::Red& red, std::string_view carpeta, std::string_view fichero,
+                  const std::filesystem::path& carpetaTrabajo);
+
 // El texto de un error de conexión del cliente: "Error: " & código & ":" & texto.
 std::string TextoErrorDeConexion(const base::Pagina& pagina);
 

@@ -19,12 +19,6 @@ constexpr std::string_view kClaveNoActualizar = "NoActualizar";
 constexpr std::string_view kListaVersiones = "VersionQVPr.txt";
 constexpr std::string_view kCambios = "CambiosQVPr.txt";
 
-bool Traer(base::Red& red, std::string_view carpeta, std::string_view fichero,
-           const std::filesystem::path& carpetaTrabajo) {
-    return red.Descargar(RutaEnServidor(carpeta, fichero),
-                         carpetaTrabajo / base::Recortar(fichero)) == 0;
-}
-
 std::string LeerTexto1252(const std::filesystem::path& ruta) {
     std::ifstream f(ruta, std::ios::binary);
     const std::string bytes((std::istreambuf_iterator<char>(f)), std::istreambuf_iterator<char>());
@@ -36,7 +30,7 @@ bool TraerArchivos(base::Red& red, base::Dialogo& dialogo, base::ExpansorZip& ex
                    std::string_view carpeta, const ListaDeVersiones& lista,
                    const std::filesystem::path& carpetaTrabajo) {
     for (const RegVersion& archivo : lista.aTraer) {
-        if (!Traer(red, carpeta, archivo.fichero, carpetaTrabajo)) {
+        if (!TraerArchivo(red, carpeta, archivo.fichero, carpetaTrabajo)) {
             dialogo.Mensaje(kMsgSinDescargaVersion, base::Icono::Error);
             return false;
         }
@@ -82,8 +76,8 @@ ResultadoVersion ActualizarVersion(base::Red& red, base::Dialogo& dialogo, base:
     const auto carpeta = PedirCarpetaDeDescarga(red, dialogo).carpeta;
     if (!carpeta) return {};
     const auto& trabajo = peticion.carpetaTrabajo;
-    if (!Traer(red, *carpeta, kListaVersiones, trabajo) ||
-        !Traer(red, *carpeta, kCambios, trabajo)) {
+    if (!TraerArchivo(red, *carpeta, kListaVersiones, trabajo) ||
+        !TraerArchivo(red, *carpeta, kCambios, trabajo)) {
         dialogo.Mensaje(kMsgSinDescargaVersion, base::Icono::Error);
         return {};
     }
