@@ -5,6 +5,7 @@
 #include <quazipfile.h>
 
 #include <QLabel>
+#include <QLineEdit>
 #include <QNetworkAccessManager>
 #include <QSignalSpy>
 #include <QtTest>
