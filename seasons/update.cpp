@@ -64,9 +64,10 @@ void GuardarServidorDeActualizaciones(base::Ajustes& ajustes, std::string_view s
 }
 
 std::string RutaEnServidor(std::string_view carpeta, std::string_view fichero) {
-    std::string ruta = carpeta.starts_with('/') ? "" : "/";
-    ruta.append(carpeta);
-    ruta.append("/Quinteva/");
+    if (carpeta.starts_with('/')) carpeta.remove_prefix(1);
+    std::string ruta = "/";
+    if (!carpeta.empty()) ruta.append(carpeta).append("/");
+    ruta.append("Quinteva/");
     ruta.append(base::Recortar(fichero));
     return ruta;
 }
