@@ -82,6 +82,13 @@ std::span<const Subcomando> Subcomandos() {
          "\"Histórico de Resultados\": los partidos de un equipo, de dos, o de una Jornada.",
          {{"equipo", "equipos", "temporada", "division", "jornada"}, {}},
          &Historico},
+        {"imprimir",
+         "imprimir RUTA.uxd [--direccion vertical|apaisada] [--desde N --hasta M] "
+         "[--papel boleto|blanco] (--pdf F.pdf | --marcas --json)",
+         "\"Imprimir &Todos\" en boletos oficiales o en papel blanco, con el ajuste guardado: "
+         "las páginas en PDF o las marcas de cada página (twips).",
+         {{"direccion", "desde", "hasta", "papel", "pdf"}, {"marcas"}},
+         &Imprimir},
         {"actualizar",
          "actualizar --servidor URL",
          "\"Actualización por Internet\": los archivos de la temporada del servidor del editor, "
