@@ -47,7 +47,6 @@ std::vector<TextoImpreso> Marcas(const Impresion& hoja) {
 }
 
 int Paso(char signo) { return signo == 'X' ? 1 : signo == '2' ? 2 : 0; }
-int PasoPleno(char c) { return c == '1' ? 1 : c == '2' ? 2 : c == 'M' ? 3 : 0; }
 
 TEST(GeometriaBoleto, LosPasosDeFabricaApaisada) {
     const AjustesEnMemoria ajustes;
