@@ -146,11 +146,21 @@ TEST(MarcasDeBoleto, ElUltimoBoletoConMenosDeOchoLlevaSuCabeceraYSuPleno) {
         columnas, 2, DisposicionDeBoletos(Direccion::Apaisada, {2340, 1040, 1850, 1130}, "f"));
     EXPECT_EQ(Marcas(hoja).size(), 14U + 2);
     EXPECT_EQ(hoja.Textos()[14].texto, "f Nº 2");
-    // Su Pleno es el de su primera columna ("0-0"): las dos primeras casillas de cada grupo.
+    // Su Pleno es el de su primera columna, la 9 ("1-M").
     const auto g = GeometriaDeBoletos(Direccion::Apaisada, {2340, 1040, 1850, 1130});
     const auto marcas = Marcas(hoja);
+    EXPECT_FLOAT_EQ(marcas[14].x, 7 * g.pasoX + g.origenX + g.pasoX);
+    EXPECT_FLOAT_EQ(marcas[15].x, 20 * g.pasoX + g.origenX + 3 * g.pasoX);
+}
+
+TEST(MarcasDeBoleto, UnCeroEnElPlenoNoMueveNada) {
+    const ValoresAjuste valores = {2340, 1040, 1850, 1130};
+    const auto g = GeometriaDeBoletos(Direccion::Apaisada, valores);
+    const auto marcas =
+        Marcas(ImprimirUno(std::vector{Columna("11111111111111", "02")}, 1,
+                           DisposicionDeBoletos(Direccion::Apaisada, valores, "f")));
     EXPECT_FLOAT_EQ(marcas[14].x, 7 * g.pasoX + g.origenX);
-    EXPECT_FLOAT_EQ(marcas[15].x, 20 * g.pasoX + g.origenX);
+    EXPECT_FLOAT_EQ(marcas[15].x, 20 * g.pasoX + g.origenX + 2 * g.pasoX);
 }
 
 TEST(MarcasDeBoleto, EnVerticalElPlenoNuncaCaeAIzquierdaDelPapel) {
