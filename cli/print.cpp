@@ -1,4 +1,4 @@
-#include <cmath>
+#include <cstdio>
 #include <iostream>
 #include <optional>
 
@@ -35,11 +35,14 @@ std::string FechaDeJornada(const std::filesystem::path& carpetaTrabajo, int jorn
     }
 }
 
+// Twips con dos decimales como mucho: "2340", "1326.69".
 std::string Numero(float valor) {
-    std::string texto = std::to_string(std::round(valor * 100.0F) / 100.0F);
-    texto.erase(texto.find_last_not_of('0') + 1);
-    if (texto.back() == '.') texto.pop_back();
-    return texto;
+    char texto[32];
+    std::snprintf(texto, sizeof texto, "%.2f", static_cast<double>(valor));
+    std::string numero = texto;
+    numero.erase(numero.find_last_not_of('0') + 1);
+    if (numero.back() == '.') numero.pop_back();
+    return numero;
 }
 
 void Marcas(const outputs::Impresion& impresion, std::ostream& salida) {
