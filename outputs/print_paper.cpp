@@ -1,5 +1,6 @@
 #include "outputs/print_paper.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstdlib>
 
@@ -98,11 +99,13 @@ void ImpBaseQ(Impresion& hoja, Direccion direccion, const AjustePapel& ajuste, f
     const float x0 = static_cast<float>(MilimetrosATwips(ajuste.margenIzquierdo));
     const float y0 = static_cast<float>(MilimetrosATwips(ajuste.margenSuperior)) + abajo;
     const float x1 = x0 + static_cast<float>(ajuste.ancho);
-    const float y1 = y0 + static_cast<float>(ajuste.alto);
     GeometriaBoleto g = GeometriaDePapel(direccion, ajuste);
     g.origenY = static_cast<std::int16_t>(g.origenY + abajo);
+    // El boleto desde los márgenes, alargado si hace falta para que quepa la fila del Pleno.
+    float y1 = y0 + static_cast<float>(ajuste.alto);
     CadaCasilla(g, direccion, [&](float x, float y) {
         hoja.Linea(x, y + kBajoLaMarca, x + kAnchoMarca, y + kBajoLaMarca, false);
+        y1 = std::max(y1, y + 2 * kBajoLaMarca);
     });
     if (ajuste.dorso) return;
     hoja.Linea(x0, y0, x1, y0, true);
