@@ -93,8 +93,7 @@ int Imprimir(const Argumentos& argumentos, std::ostream& salida) {
     const auto trabajo = argumentos.CarpetaTrabajo();
     const base::AjustesIni ajustes(trabajo);
     DialogoDeOrdenes dialogo(std::cerr);
-    const std::int32_t boletos = static_cast<std::int32_t>(
-        (activas.size() + outputs::kColumnasPorBoleto - 1) / outputs::kColumnasPorBoleto);
+    const std::int32_t boletos = outputs::NumeroDeBoletos(activas.size());
     const bool todos = !argumentos.Valor("desde") && !argumentos.Valor("hasta");
     const auto rango =
         outputs::RangoDeImpresion(dialogo, todos, argumentos.Valor("desde").value_or(""),

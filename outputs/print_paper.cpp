@@ -133,6 +133,17 @@ ImpresionEnPapel::ImpresionEnPapel(base::Ajustes& ajustes, base::Dialogo& dialog
 void ImpresionEnPapel::ElegirDireccion(Direccion direccion) { direccion_ = direccion; }
 
 void ImpresionEnPapel::Aceptar(const AjustePapel& a) {
+    Ajustar(a);
+    ajustes_.Guardar(base::kAplicacion, "Avisos", "AjustePapel", "SI");
+}
+
+Impresion ImpresionEnPapel::Prueba() const {
+    Impresion hoja;
+    ImpBaseQ(hoja, direccion_, ajuste_);
+    return hoja;
+}
+
+void ImpresionEnPapel::Ajustar(const AjustePapel& a) {
     const auto guardar = [&](std::string_view clave, std::string_view valor) {
         ajustes_.Guardar(base::kAplicacion, kSeccion, clave, valor);
     };
@@ -143,7 +154,6 @@ void ImpresionEnPapel::Aceptar(const AjustePapel& a) {
     guardar("ImpDorsoBoleto", a.dorso ? "V" : "");
     guardar("DB", a.dorso ? "1" : "0");
     ajuste_ = a;
-    ajustes_.Guardar(base::kAplicacion, "Avisos", "AjustePapel", "SI");
 }
 
 bool ImpresionEnPapel::Avisar() {

@@ -69,8 +69,12 @@ class ImpresionEnPapel {
     const AjustePapel& Ajuste() const { return ajuste_; }
     Direccion DireccionElegida() const { return direccion_; }
     void ElegirDireccion(Direccion direccion);
-    // "&Aceptar" del ajuste: guarda los seis valores, deriva la geometría, "AjustePapel" a "SI".
+    // Guarda los seis valores y deriva la geometría ("&Prueba" e "I&mprimir" del ajuste).
+    void Ajustar(const AjustePapel& ajuste);
+    // "&Aceptar" del ajuste: lo anterior y "AjustePapel" a "SI".
     void Aceptar(const AjustePapel& ajuste);
+    // "&Prueba": el marco de un boleto sin columnas, para comparar sus marcas con el papel.
+    Impresion Prueba() const;
 
     std::optional<Impresion> ImprimirUno(std::span<const engine::RegistroColumna> activas,
                                          int boleto, const std::string& fecha);

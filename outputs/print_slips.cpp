@@ -93,12 +93,11 @@ ValoresAjuste ImpresionEnBoletos::ValoresDe(Direccion direccion) const {
     return ValoresGuardados(ajustes_, direccion);
 }
 
-std::optional<ValoresAjuste> ImpresionEnBoletos::Guardar(Direccion direccion,
-                                                         const CamposAjuste& campos) {
+bool ImpresionEnBoletos::Ajustar(Direccion direccion, const CamposAjuste& campos) {
     for (const auto& campo : campos) {
         if (base::Recortar(campo).empty()) {
             dialogo_.Mensaje(kMsgFaltaAjuste, base::Icono::Aviso);
-            return std::nullopt;
+            return false;
         }
     }
     ValoresAjuste valores{};
@@ -110,18 +109,17 @@ std::optional<ValoresAjuste> ImpresionEnBoletos::Guardar(Direccion direccion,
     }
     direccion_ = direccion;
     geometria_ = GeometriaDeBoletos(direccion, valores);
-    return valores;
+    return true;
 }
 
 std::optional<Impresion> ImpresionEnBoletos::Prueba(Direccion direccion,
                                                     const CamposAjuste& campos) {
-    const auto valores = Guardar(direccion, campos);
-    if (!valores) return std::nullopt;
-    return PaginaDePrueba(direccion, *valores);
+    if (!Ajustar(direccion, campos)) return std::nullopt;
+    return PaginaDePrueba(direccion, ValoresGuardados(ajustes_, direccion));
 }
 
 bool ImpresionEnBoletos::Aceptar(Direccion direccion, const CamposAjuste& campos) {
-    if (!Guardar(direccion, campos)) return false;
+    if (!Ajustar(direccion, campos)) return false;
     ajustes_.Guardar(base::kAplicacion, "Avisos", "AjusteBoletos", "SI");
     return true;
 }

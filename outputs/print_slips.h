@@ -55,10 +55,12 @@ class ImpresionEnBoletos {
 
     // El panel de ajuste: los valores guardados de la dirección elegida.
     ValoresAjuste ValoresDe(Direccion direccion) const;
-    // "&Prueba": las dos "X" de la primera y la última casilla; guarda la dirección y los cuatro
-    // valores y deriva la geometría. Nada si falta un valor (con su mensaje).
+    // Guarda la dirección y los cuatro valores y deriva la geometría; false si falta un valor
+    // (con su mensaje). Es lo primero de "&Prueba", "I&mprimir" y "&Aceptar".
+    bool Ajustar(Direccion direccion, const CamposAjuste& campos);
+    // "&Prueba": lo anterior y las dos "X" de la primera y la última casilla.
     std::optional<Impresion> Prueba(Direccion direccion, const CamposAjuste& campos);
-    // "&Aceptar": guarda y deriva como la prueba y marca "AjusteBoletos". false si falta un valor.
+    // "&Aceptar": ajusta y marca "AjusteBoletos". false si falta un valor.
     bool Aceptar(Direccion direccion, const CamposAjuste& campos);
 
     // "Imprimir &Uno" e ImprimirTodos: nada si el usuario cancela el aviso.
@@ -69,7 +71,6 @@ class ImpresionEnBoletos {
                                            const std::string& fecha);
 
   private:
-    std::optional<ValoresAjuste> Guardar(Direccion direccion, const CamposAjuste& campos);
     bool Avisar();
 
     base::Ajustes& ajustes_;

@@ -73,6 +73,24 @@ void Columna(Impresion& hoja, const DisposicionBoleto& d, int k,
 
 }  // namespace
 
+std::int32_t NumeroDeBoletos(std::size_t columnas) {
+    return static_cast<std::int32_t>((columnas + kColumnasPorBoleto - 1) / kColumnasPorBoleto);
+}
+
+BoletoEnPantalla Escrol(std::span<const engine::RegistroColumna> activas, int boleto) {
+    BoletoEnPantalla pantalla;
+    pantalla.numero = base::Formato(boleto, "#,##0");
+    const auto primera = static_cast<std::size_t>(boleto - 1) * kColumnasPorBoleto;
+    for (std::size_t n = primera; n < std::min(primera + kColumnasPorBoleto, activas.size()); ++n) {
+        pantalla.columnas.push_back(engine::TextoDeColumna(activas[n].columna));
+    }
+    if (primera < activas.size()) {
+        const auto& pleno = activas[primera].pleno;
+        pantalla.pleno = std::string{pleno[0], '-', pleno[1]};
+    }
+    return pantalla;
+}
+
 Impresion ImprimirUno(std::span<const engine::RegistroColumna> activas, int boleto,
                       const DisposicionBoleto& disposicion) {
     Impresion hoja;

@@ -5,6 +5,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "engine/columns.h"
 #include "outputs/print_list.h"
@@ -26,6 +27,18 @@ struct DisposicionBoleto {
     std::string fecha;
     std::function<void(Impresion&)> marco;
 };
+
+// Los boletos que llenan tantas columnas, ocho en cada uno.
+std::int32_t NumeroDeBoletos(std::size_t columnas);
+
+// Escrol: el boleto que elige la barra, en pantalla: sus columnas (14 signos cada una), el Pleno
+// de la primera como "1-M" y su número con "#,##0".
+struct BoletoEnPantalla {
+    std::vector<std::string> columnas;
+    std::string pleno;
+    std::string numero;
+};
+BoletoEnPantalla Escrol(std::span<const engine::RegistroColumna> activas, int boleto);
 
 // "Imprimir &Uno": el boleto dado (desde 1) de las columnas activas, las que van de
 // (boleto - 1) × 8 + 1 a boleto × 8; el número del boleto sin formato.

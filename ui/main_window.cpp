@@ -71,6 +71,7 @@ constexpr std::string_view kBienvenida =
 
 VentanaPrincipal::VentanaPrincipal(Servicios servicios, QWidget* madre)
     : QMainWindow(madre), s_(servicios) {
+    if (!s_.imprimir) s_.imprimir = ImpresoraDelSistema(s_.ajustes, s_.dialogo);
     setWindowTitle(QStringLiteral("Quinteva"));
     setObjectName(QStringLiteral("VentanaPrincipal"));
     comb_.condiciones = engine::CondicionesIniciales(comb_.base);
@@ -211,8 +212,9 @@ void VentanaPrincipal::CrearMenus() {
                      QStringLiteral("AccionCopiarCondiciones"));
     connect(copiar_, &QAction::triggered, this, &VentanaPrincipal::CopiarCondiciones);
     archivo->addSeparator();
-    Accion(archivo, QStringLiteral("&Seleccionar Impresora"), QStringLiteral("AccionImpresora"),
-           false);
+    connect(Accion(archivo, QStringLiteral("&Seleccionar Impresora"),
+                   QStringLiteral("AccionImpresora")),
+            &QAction::triggered, this, &VentanaPrincipal::SeleccionarImpresora);
     connect(Accion(archivo, QStringLiteral("&Equipos"), QStringLiteral("AccionEquipos")),
             &QAction::triggered, this, &VentanaPrincipal::Equipos);
     connect(Accion(archivo, QStringLiteral("Jornadas &Liga"), QStringLiteral("AccionJornadasLiga")),
@@ -692,8 +694,8 @@ void VentanaPrincipal::Ocupado(bool ocupado) {
     if (ocupado) {
         for (QWidget* w : std::initializer_list<QWidget*>{
                  boletos_->condicionada, boletos_->reducida, boletos_->campoAjustar,
-                 boletos_->ajustar, boletos_->oficial, boletos_->txt, boletos_->eliminarManual,
-                 boletos_->anadirManual}) {
+                 boletos_->ajustar, boletos_->oficial, boletos_->txt, boletos_->imprimirBoletos,
+                 boletos_->imprimirPapel, boletos_->eliminarManual, boletos_->anadirManual}) {
             w->setEnabled(false);
         }
     }

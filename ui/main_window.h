@@ -17,6 +17,8 @@
 #include "ui/background_work.h"
 #include "ui/cross_thread_dialog.h"
 #include "ui/network_flow.h"
+#include "ui/print_window_base.h"
+#include "ui/printing.h"
 #include "ui/reduction_seam.h"
 
 class QAction;
@@ -46,6 +48,8 @@ struct Servicios {
     base::Ajustes& ajustes;
     base::Dialogo& dialogo;
     Reductor* reductor = nullptr;
+    // Cómo se imprime; sin nada, en la impresora del ajuste "Impresora".
+    Imprimir imprimir;
 };
 
 // Las páginas, en el orden del trabajo.
@@ -114,6 +118,10 @@ class VentanaPrincipal : public QMainWindow {
     void Ajustar();
     void ArchivoOficial();
     void ArchivoTxt();
+    // "Imprimir en Boletos" e "Imprimir en papel blanco" del conjunto que se juega, y la impresora.
+    void ImprimirEnBoletos();
+    void ImprimirEnPapel();
+    void SeleccionarImpresora();
     void EliminarManual();
     void AnadirManual();
     // "Quinteva [Listado de Apuestas]" de las Condicionadas o de las Reducidas.
@@ -187,6 +195,8 @@ class VentanaPrincipal : public QMainWindow {
     void FinAjuste();
     // El año de la fecha de la Jornada que se muestra ("dd/MM/yy"); el actual si no hay.
     int AnioDeLaJornada() const;
+    // Las columnas activas del conjunto que se juega, guardado, y la fecha de su Jornada.
+    std::optional<ColumnasAImprimir> ColumnasJugadas();
     void RefrescarPaginaBoletos();
 
     void Habilitar(int pagina, bool habilitada);

@@ -43,6 +43,10 @@ void VentanaPrincipal::ConectarBoletos() {
     connect(boletos_->detener, &QPushButton::clicked, this, &VentanaPrincipal::Detener);
     connect(boletos_->oficial, &QPushButton::clicked, this, &VentanaPrincipal::ArchivoOficial);
     connect(boletos_->txt, &QPushButton::clicked, this, &VentanaPrincipal::ArchivoTxt);
+    connect(boletos_->imprimirBoletos, &QPushButton::clicked, this,
+            &VentanaPrincipal::ImprimirEnBoletos);
+    connect(boletos_->imprimirPapel, &QPushButton::clicked, this,
+            &VentanaPrincipal::ImprimirEnPapel);
     connect(boletos_->eliminarManual, &QPushButton::clicked, this,
             &VentanaPrincipal::EliminarManual);
     connect(boletos_->anadirManual, &QPushButton::clicked, this, &VentanaPrincipal::AnadirManual);
@@ -184,7 +188,8 @@ void VentanaPrincipal::RefrescarPaginaBoletos() {
     boletos_->enTotal->setText(Cifra(static_cast<double>(jugadas)));
     for (QWidget* w : std::initializer_list<QWidget*>{
              boletos_->campoAjustar, boletos_->ajustar, boletos_->oficial, boletos_->txt,
-             boletos_->eliminarManual, boletos_->anadirManual}) {
+             boletos_->imprimirBoletos, boletos_->imprimirPapel, boletos_->eliminarManual,
+             boletos_->anadirManual}) {
         w->setEnabled(elegida);
     }
     boletos_->detener->setEnabled(false);

@@ -1,0 +1,43 @@
+// Los mandatos de la ventana principal que imprimen las columnas que se juegan.
+#include "builders/boletos.h"
+#include "outputs/played_set.h"
+#include "ui/main_window.h"
+#include "ui/paper_print_window.h"
+#include "ui/printer_select_window.h"
+#include "ui/qt_text.h"
+#include "ui/slip_print_window.h"
+
+namespace quinteva::ui {
+
+std::optional<ColumnasAImprimir> VentanaPrincipal::ColumnasJugadas() {
+    if (!ExigirNombre()) return std::nullopt;
+    try {
+        const builders::Jugada jugada = builders::JugadaElegida(comb_);
+        const auto conjunto = builders::ConjuntoDe(comb_, jugada, s_.carpetaTrabajo);
+        builders::ExigirColumnasGuardadas(conjunto, jugada);
+        return ColumnasAImprimir{outputs::LeerColumnas(conjunto.guardado, true), S(fechaJornada_)};
+    } catch (const std::exception& e) {
+        Fallo(e);
+        return std::nullopt;
+    }
+}
+
+void VentanaPrincipal::ImprimirEnBoletos() {
+    if (auto columnas = ColumnasJugadas()) {
+        AbrirVentana(new VentanaImprimirBoletos(std::move(*columnas), s_.ajustes, s_.dialogo,
+                                                s_.imprimir, this));
+    }
+}
+
+void VentanaPrincipal::ImprimirEnPapel() {
+    if (auto columnas = ColumnasJugadas()) {
+        AbrirVentana(new VentanaImprimirPapel(std::move(*columnas), s_.ajustes, s_.dialogo,
+                                              s_.imprimir, this));
+    }
+}
+
+void VentanaPrincipal::SeleccionarImpresora() {
+    AbrirVentana(new VentanaSeleccionImpresora(s_.ajustes, this));
+}
+
+}  // namespace quinteva::ui
