@@ -66,9 +66,13 @@ int main(int argc, char** argv) {
     dialogo.FijarAjustes(ajustes);
     const std::filesystem::path programa = QApplication::applicationDirPath().toStdString();
     quinteva::ui::ReductorDelPrograma reductor;
-    quinteva::ui::VentanaPrincipal ventana({carpeta, programa,
-                                            quinteva::base::CarpetaDatosPrograma(programa), ajustes,
-                                            dialogo, &reductor});
+    quinteva::ui::VentanaPrincipal ventana({carpeta,
+                                            programa,
+                                            quinteva::base::CarpetaDatosPrograma(programa),
+                                            ajustes,
+                                            dialogo,
+                                            &reductor,
+                                            {}});
     dialogo.FijarMadre(&ventana);
     const QStringList argumentos = QApplication::arguments();
     std::optional<std::filesystem::path> archivo;

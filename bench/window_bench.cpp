@@ -37,8 +37,13 @@ struct Programa {
         ajustes.Guardar(base::kAplicacion, "Inic05", "VerBien", "NO");
     }
     ui::Servicios Servicios() {
-        return {trabajo.Ruta(), carpetaPrograma.Ruta(), carpetaPrograma.Ruta(), ajustes, dialogo,
-                &reductor};
+        return {trabajo.Ruta(),
+                carpetaPrograma.Ruta(),
+                carpetaPrograma.Ruta(),
+                ajustes,
+                dialogo,
+                &reductor,
+                {}};
     }
 };
 

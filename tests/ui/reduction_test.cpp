@@ -20,7 +20,7 @@ struct ProgramaReal {
     std::unique_ptr<ui::VentanaPrincipal> Ventana() {
         auto v = std::make_unique<ui::VentanaPrincipal>(
             ui::Servicios{inst.trabajo.Ruta(), inst.programa.Ruta(), inst.programa.Ruta(),
-                          inst.ajustes, inst.dialogo, &reductor});
+                          inst.ajustes, inst.dialogo, &reductor, inst.Impresora()});
         v->Arrancar(std::nullopt);
         v->show();
         if (!QTest::qWaitForWindowExposed(v.get())) qFatal("La ventana no se muestra");

@@ -32,6 +32,12 @@ struct Instalacion {
     AjustesEnMemoria ajustes;
     DialogoGuionado dialogo;
     ReductorDePrueba reductor;
+    // Lo que el programa mandó a la impresora, en orden.
+    std::vector<outputs::Impresion> impresas;
+
+    ui::Imprimir Impresora() {
+        return [this](const outputs::Impresion& hoja) { impresas.push_back(hoja); };
+    }
 
     Instalacion() {
         std::filesystem::copy(QUINTEVA_DATOS, programa.Ruta(),
@@ -45,8 +51,9 @@ struct Instalacion {
 
     std::unique_ptr<ui::VentanaPrincipal> Ventana(
         const std::optional<std::filesystem::path>& argumento = std::nullopt) {
-        auto v = std::make_unique<ui::VentanaPrincipal>(ui::Servicios{
-            trabajo.Ruta(), programa.Ruta(), programa.Ruta(), ajustes, dialogo, &reductor});
+        auto v = std::make_unique<ui::VentanaPrincipal>(
+            ui::Servicios{trabajo.Ruta(), programa.Ruta(), programa.Ruta(), ajustes, dialogo,
+                          &reductor, Impresora()});
         v->Arrancar(argumento);
         v->show();
         if (!QTest::qWaitForWindowExposed(v.get())) qFatal("La ventana no se muestra");
