@@ -117,8 +117,8 @@ class PruebaBoletos : public QObject {
         QCOMPARE(outputs::LeerJuegoJugado(ruta).juego, std::string("red"));
         QCOMPARE(pruebas::TextoDe(*v, "ApuestasEnTotal"), QStringLiteral(" %1").arg(reducidas));
         QVERIFY(Hijo<QPushButton>(*v, "BotonArchivoOficial")->isEnabled());
-        QVERIFY(!Hijo<QPushButton>(*v, "BotonImprimirBoletos")->isEnabled());
-        QVERIFY(!Hijo<QPushButton>(*v, "BotonImprimirPapel")->isEnabled());
+        QVERIFY(Hijo<QPushButton>(*v, "BotonImprimirBoletos")->isEnabled());
+        QVERIFY(Hijo<QPushButton>(*v, "BotonImprimirPapel")->isEnabled());
 
         // Ajustar a 16: se sortean columnas de la base y se guarda.
         Ajustar(*v, QStringLiteral("16"));

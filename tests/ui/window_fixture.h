@@ -14,6 +14,7 @@
 #include <filesystem>
 #include <memory>
 
+#include "outputs/print_list.h"
 #include "tests/support/memory_settings.h"
 #include "tests/support/scripted_dialog.h"
 #include "tests/support/temp_folder.h"
