@@ -2,6 +2,7 @@
 #include <QDir>
 #include <QImage>
 #include <QLineEdit>
+#include <QPainter>
 #include <QRadioButton>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -29,13 +30,18 @@
 #include "ui/located_columns_window.h"
 #include "ui/official_file_window.h"
 #include "ui/options_window.h"
+#include "ui/paper_print_window.h"
 #include "ui/pools_results_window.h"
 #include "ui/pools_slip_window.h"
 #include "ui/pools_view_window.h"
+#include "ui/print_range_dialog.h"
+#include "ui/printer_select_window.h"
+#include "ui/printing.h"
 #include "ui/program_update_window.h"
 #include "ui/remove_columns_window.h"
 #include "ui/report_windows.h"
 #include "ui/season_update_window.h"
+#include "ui/slip_print_window.h"
 #include "ui/spanish_texts.h"
 #include "ui/statistics_window.h"
 #include "ui/teams_window.h"
@@ -232,6 +238,52 @@ class PruebaCapturas : public QObject {
         equipo->setCurrentIndex(equipo->findText(QStringLiteral("Betis")));
         pruebas::Pulsar(*historico, "BotonBuscar");
         Capturar(*historico, QStringLiteral("ventana_historico"));
+    }
+
+    // Una impresión dibujada en una hoja A4 a 100 puntos por pulgada, como la vería el papel.
+    static void CapturarImpresion(const outputs::Impresion& hoja, const QString& nombre) {
+        QImage papel(827, 1169, QImage::Format_RGB32);
+        papel.fill(Qt::white);
+        papel.setDotsPerMeterX(3937);
+        papel.setDotsPerMeterY(3937);
+        {
+            QPainter pintor(&papel);
+            ui::PintarPagina(pintor, hoja, 1, 100);
+        }
+        QVERIFY(papel.save(Carpeta() + QLatin1Char('/') + nombre + QStringLiteral(".png")));
+    }
+
+    // Las ventanas de impresión con su ajuste, la selección de impresión y la de impresora, y
+    // la primera página de lo que imprimen.
+    void VentanasDeImpresion() {
+        pruebas::Instalacion inst;
+        auto v = pruebas::Guardada(inst, inst.documentos / "Captura.uxd", true);
+        pruebas::Marcar(*v, "OpcionReducida");
+        pruebas::Pulsar(*v, "BotonImprimirBoletos");
+        auto* boletos = Hijo<ui::VentanaImprimirBoletos>(*v, "VentanaImprimirBoletos");
+        Capturar(*boletos, QStringLiteral("ventana_imprimir_boletos"));
+        inst.dialogo.Responder(base::Respuesta::Aceptar).Responder(base::Respuesta::Aceptar);
+        pruebas::Pulsar(*boletos, "BotonImprimirUno");
+        pruebas::Pulsar(*boletos, "BotonAjustarImpresora");
+        Capturar(*boletos, QStringLiteral("ventana_imprimir_boletos_ajuste"));
+        pruebas::Pulsar(*boletos, "BotonImprimirTodos");
+        auto* rango = boletos->findChild<ui::VentanaSeleccionImpresion*>();
+        QVERIFY(rango != nullptr);
+        Capturar(*rango, QStringLiteral("ventana_seleccion_impresion"));
+        rango->close();
+        boletos->close();
+        pruebas::Pulsar(*v, "BotonImprimirPapel");
+        auto* papel = Hijo<ui::VentanaImprimirPapel>(*v, "VentanaImprimirPapel");
+        pruebas::Pulsar(*papel, "BotonImprimirUno");
+        pruebas::Pulsar(*papel, "BotonAjustarImpresora");
+        Capturar(*papel, QStringLiteral("ventana_imprimir_papel_ajuste"));
+        papel->close();
+        QCOMPARE(inst.impresas.size(), 2U);
+        CapturarImpresion(inst.impresas[0], QStringLiteral("impresion_boletos"));
+        CapturarImpresion(inst.impresas[1], QStringLiteral("impresion_papel_blanco"));
+        auto* impresora =
+            pruebas::AbrirDesdeMenu<ui::VentanaSeleccionImpresora>(*v, "AccionImpresora");
+        Capturar(*impresora, QStringLiteral("ventana_seleccion_impresora"));
     }
 
     // La actualización por Internet contra quinteva-servidor: al abrir y al acabar; la del

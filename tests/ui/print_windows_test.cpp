@@ -182,6 +182,7 @@ class PruebaVentanasImpresion : public QObject {
     // marcas caen donde dicen sus twips.
     void ElPintorPoneCadaMarcaEnSusTwips() {
         pruebas::CarpetaTemporal carpeta;
+        QDir::setCurrent(QString::fromStdString(carpeta.Ruta().string()));
         std::vector<engine::RegistroColumna> columnas(1);
         columnas[0].columna = engine::ColumnaDeTexto("1X21X21X21X21X");
         columnas[0].pleno = engine::PlenoDeTexto("0M");
