@@ -1,0 +1,45 @@
+#include "outputs/line_pages.h"
+
+#include "outputs/pdf_writer.h"
+
+namespace quinteva::outputs {
+
+HojaDeLineas::HojaDeLineas(Pie pie, float izquierda, float arriba)
+    : pie_(std::move(pie)), izquierda_(izquierda), arriba_(arriba), y_(arriba) {}
+
+void HojaDeLineas::Sitio(float alto) {
+    if (y_ + alto <= kAltoA4 - kMargen) return;
+    if (pie_) pie_(hoja_, pagina_);
+    hoja_.NuevaPagina();
+    ++pagina_;
+    y_ = arriba_;
+}
+
+void HojaDeLineas::Reservar(int lineas, int tamano) {
+    Sitio(static_cast<float>(lineas) * Impresion::AltoDeLinea(tamano));
+}
+
+void HojaDeLineas::Linea(std::string_view texto, std::string_view fuente, int tamano,
+                         bool negrita) {
+    Sitio(Impresion::AltoDeLinea(tamano));
+    hoja_.Fuente(fuente, tamano, negrita);
+    hoja_.Texto(izquierda_, y_, texto);
+    y_ = hoja_.YActual();
+}
+
+void HojaDeLineas::Par(std::string_view primero, std::string_view segundo, float columna,
+                       std::string_view fuente, int tamano) {
+    Sitio(Impresion::AltoDeLinea(tamano));
+    hoja_.Fuente(fuente, tamano, false);
+    hoja_.Texto(izquierda_, y_, primero);
+    hoja_.Negrita(true);
+    hoja_.Texto(izquierda_ + columna, y_, segundo);
+    y_ = hoja_.YActual();
+}
+
+Impresion HojaDeLineas::Terminar() {
+    if (pie_) pie_(hoja_, pagina_);
+    return std::move(hoja_);
+}
+
+}  // namespace quinteva::outputs
