@@ -13,7 +13,7 @@ bool GuardarPdf(base::Dialogo& dialogo, const Impresion& impresion,
     if (!ruta) return false;
     std::error_code error;
     if (std::filesystem::exists(*ruta, error) &&
-        dialogo.PreguntaSiNo(kPreguntaSobrescribir, base::Respuesta::No) != base::Respuesta::Si) {
+        dialogo.PreguntaSiNo(kPreguntaSobrescribir) != base::Respuesta::Si) {
         return false;
     }
     base::EscribirAtomico(*ruta, PdfDeImpresion(impresion));

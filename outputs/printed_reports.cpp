@@ -46,25 +46,35 @@ Impresion ImpresionListado(const std::string& jornada,
 }
 
 Impresion ImpresionColumnasLocalizadas(const std::string& jornada,
-                                       const std::vector<std::array<std::string, 3>>& filas) {
+                                       const std::vector<FilaLocalizada>& filas) {
     HojaDeLineas hoja;
     hoja.Linea("Quinteva", kArial, 16, false);
     hoja.Linea(jornada, kArial, 10, false);
     hoja.Linea("Localización de Columnas acertadas", kArial, 12, true);
     hoja.Blanco(10);
-    hoja.Linea(Relleno("Boleto", 10) + Relleno("Columna", 10) + "Aciertos", kCourier, kTamanoFilas,
-               true);
+    std::string cabecera;
+    for (const auto titulo : kCabecerasLocalizadas) cabecera += Relleno(std::string(titulo), 10);
+    hoja.Linea(cabecera, kCourier, kTamanoFilas, true);
     for (const auto& fila : filas) {
-        hoja.Linea(Relleno(fila[0], 10) + Relleno(fila[1], 10) + fila[2], kCourier, kTamanoFilas,
-                   false);
+        hoja.Linea(Relleno(fila.boleto, 10) + Relleno(fila.columna, 10) + fila.aciertos, kCourier,
+                   kTamanoFilas, false);
     }
     return hoja.Terminar();
 }
 
-Impresion ImpresionArchivoJson(const std::vector<std::pair<std::string, std::string>>& campos) {
+Impresion ImpresionArchivoJson(const CamposArchivoJson& c) {
     HojaDeLineas hoja({}, 1500.0F, 1500.0F);
-    for (const auto& [rotulo, valor] : campos) {
-        hoja.Par(rotulo + "  ", valor, 2400.0F, "Ms Sans Serif", 10);
+    const std::array<std::pair<std::string_view, const std::string*>, 7> lineas = {{
+        {"JORNADA", &c.jornada},
+        {"AÑO", &c.anio},
+        {"RECEPTOR Nº", &c.receptor},
+        {"HASH", &c.hash},
+        {"N.º APUESTAS", &c.apuestas},
+        {"N.º BOLETOS", &c.boletos},
+        {"IMPORTE", &c.importe},
+    }};
+    for (const auto& [rotulo, valor] : lineas) {
+        hoja.Par(std::string(rotulo) + "  ", *valor, 2400.0F, "Ms Sans Serif", 10);
     }
     return hoja.Terminar();
 }

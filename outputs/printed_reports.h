@@ -7,6 +7,8 @@
 #include <vector>
 
 #include "engine/columns.h"
+#include "outputs/json_file.h"
+#include "outputs/located_columns.h"
 #include "outputs/print_list.h"
 
 namespace quinteva::outputs {
@@ -24,11 +26,11 @@ std::string PreguntaImprimirListado(std::int64_t columnas);
 
 // "&Imprimir" de "Localización de Columnas acertadas".
 Impresion ImpresionColumnasLocalizadas(const std::string& jornada,
-                                       const std::vector<std::array<std::string, 3>>& filas);
+                                       const std::vector<FilaLocalizada>& filas);
 
 // "&Imprimir" de "Archivo JSON": siete líneas en "Ms Sans Serif" del 10 a 1500 twips del borde,
 // el rótulo en redonda y el valor en negrita.
-Impresion ImpresionArchivoJson(const std::vector<std::pair<std::string, std::string>>& campos);
+Impresion ImpresionArchivoJson(const CamposArchivoJson& campos);
 
 // "Imprimir" de "Columnas Ganadoras": el título y las filas en "Courier New".
 Impresion ImpresionColumnasGanadoras(const std::string& temporada,

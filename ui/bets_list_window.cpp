@@ -11,14 +11,17 @@
 #include "base/record_files.h"
 #include "engine/columns.h"
 #include "engine/combination.h"
+#include "outputs/played_set.h"
+#include "outputs/printed_reports.h"
 #include "ui/report_grid.h"
+#include "ui/season_window_parts.h"
 
 namespace quinteva::ui {
 
 VentanaListado::VentanaListado(const QString& rotulo, const std::filesystem::path& carpetaTrabajo,
                                std::int32_t totalGeneradas, std::int32_t totalReducidas,
-                               QWidget* madre)
-    : QDialog(madre) {
+                               Impresion impresion, QWidget* madre)
+    : QDialog(madre), impresion_(std::move(impresion)) {
     setObjectName(QStringLiteral("VentanaListado"));
     setWindowTitle(QStringLiteral("Quinteva [Listado de Apuestas]"));
     // La prueba sobre el texto del rótulo es la que elige el almacén.
@@ -54,7 +57,8 @@ VentanaListado::VentanaListado(const QString& rotulo, const std::filesystem::pat
         this);
     aviso->setWordWrap(true);
     caja->addWidget(aviso);
-    BotonesListado(this, caja);
+    connect(BotonesListado(this, caja), &QPushButton::clicked, this,
+            &VentanaListado::ImprimirListado);
     connect(barra_, &QScrollBar::valueChanged, this, &VentanaListado::Escrol);
     Escrol();
 }
@@ -73,6 +77,20 @@ void VentanaListado::Escrol() {
         auto* item = new QListWidgetItem(QString::fromStdString(texto), lista_);
         if (registro.estado == engine::kEliminada) item->setForeground(Qt::red);
     }
+}
+
+void VentanaListado::ImprimirListado() {
+    if (total_ > outputs::kColumnasSinPreguntar &&
+        impresion_.dialogo.PreguntaSiNo(outputs::PreguntaImprimirListado(total_)) !=
+            base::Respuesta::Si) {
+        return;
+    }
+    ConAviso(impresion_.dialogo, [this] {
+        const auto columnas = outputs::LeerColumnas(almacen_, false);
+        const auto hasta = std::min<std::size_t>(columnas.size(), static_cast<std::size_t>(total_));
+        impresion_.imprimir(
+            outputs::ImpresionListado(impresion_.jornada, std::span(columnas.data(), hasta)));
+    });
 }
 
 }  // namespace quinteva::ui

@@ -3,6 +3,10 @@
 #include <QDialog>
 #include <cstdint>
 #include <filesystem>
+#include <string>
+
+#include "base/dialog.h"
+#include "ui/printing.h"
 
 class QLabel;
 class QListWidget;
@@ -20,16 +24,24 @@ class VentanaListado : public QDialog {
   public:
     static constexpr int kFilasPorPagina = 50;
 
+    // Lo que "&Imprimir" necesita: la línea de la Jornada, el Dialogo y la impresora.
+    struct Impresion {
+        std::string jornada;
+        base::Dialogo& dialogo;
+        Imprimir imprimir;
+    };
     VentanaListado(const QString& rotulo, const std::filesystem::path& carpetaTrabajo,
-                   std::int32_t totalGeneradas, std::int32_t totalReducidas,
+                   std::int32_t totalGeneradas, std::int32_t totalReducidas, Impresion impresion,
                    QWidget* madre = nullptr);
 
   private:
     // Escrol: la página que señala la barra.
     void Escrol();
+    void ImprimirListado();
 
     std::filesystem::path almacen_;
     std::int32_t total_;
+    Impresion impresion_;
     QListWidget* lista_;
     QScrollBar* barra_;
 };

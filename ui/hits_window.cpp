@@ -316,7 +316,8 @@ void VentanaAciertos::Fallos() {
 }
 
 void VentanaAciertos::Columnas() {
-    AbrirHija(new VentanaColumnasAcertadas(outputs::FilasLocalizadas(tabla_), this));
+    AbrirHija(new VentanaColumnasAcertadas(outputs::FilasLocalizadas(tabla_), j_.lineaJornada,
+                                           j_.imprimir, this));
 }
 
 void VentanaAciertos::Pena() {

@@ -13,6 +13,7 @@
 #include "outputs/winning_column.h"
 #include "ui/background_work.h"
 #include "ui/cross_thread_dialog.h"
+#include "ui/printing.h"
 
 class QLabel;
 class QProgressBar;
@@ -35,6 +36,9 @@ struct JornadaAciertos {
     std::string anio;
     const engine::Combinacion& combinacion;
     base::Dialogo& dialogo;
+    // Para imprimir la localización de las columnas acertadas: su línea de la Jornada.
+    std::string lineaJornada;
+    Imprimir imprimir;
 };
 
 // "Comprobación de Aciertos": la columna ganadora de la Jornada en una rejilla de 15 filas y las

@@ -1,5 +1,4 @@
 #include "ui/json_file_window.h"
-#include "ui/qt_text.h"
 
 #include <QFormLayout>
 #include <QHBoxLayout>
@@ -8,6 +7,9 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
+
+#include "outputs/printed_reports.h"
+#include "ui/qt_text.h"
 
 namespace quinteva::ui {
 namespace {
@@ -32,8 +34,8 @@ QPushButton* Boton(QWidget* madre, QHBoxLayout* fila, const QString& texto, cons
 
 }  // namespace
 
-VentanaArchivoJson::VentanaArchivoJson(base::Dialogo& dialogo, QWidget* madre)
-    : QDialog(madre), dialogo_(dialogo) {
+VentanaArchivoJson::VentanaArchivoJson(base::Dialogo& dialogo, Imprimir imprimir, QWidget* madre)
+    : QDialog(madre), dialogo_(dialogo), imprimir_(std::move(imprimir)) {
     setObjectName(QStringLiteral("VentanaArchivoJson"));
     setWindowTitle(QStringLiteral("Quinteva [Archivo JSON]"));
     auto* caja = new QVBoxLayout(this);
@@ -61,9 +63,13 @@ VentanaArchivoJson::VentanaArchivoJson(base::Dialogo& dialogo, QWidget* madre)
     modificar_ =
         Boton(this, botones, QStringLiteral("&Modificar"), QStringLiteral("BotonModificar"));
     guardar_ = Boton(this, botones, QStringLiteral("&Guardar"), QStringLiteral("BotonGuardar"));
-    // La impresión llega con las demás.
-    Boton(this, botones, QStringLiteral("&Imprimir"), QStringLiteral("BotonImprimir"))
-        ->setEnabled(false);
+    connect(Boton(this, botones, QStringLiteral("&Imprimir"), QStringLiteral("BotonImprimir")),
+            &QPushButton::clicked, this, [this] {
+                imprimir_(outputs::ImpresionArchivoJson(
+                    {S(editables_[0]->text()), S(editables_[1]->text()), S(editables_[2]->text()),
+                     S(hash_->text()), S(apuestas_->text()), S(boletos_->text()),
+                     S(importe_->text()), S(igualPleno_->text())}));
+            });
     botones->addStretch();
     auto* salir = Boton(this, botones, QStringLiteral("&Salir"), QStringLiteral("BotonSalir"));
     caja->addLayout(botones);

@@ -6,6 +6,7 @@
 
 #include "base/dialog.h"
 #include "outputs/json_file.h"
+#include "ui/printing.h"
 
 class QLineEdit;
 class QPushButton;
@@ -18,7 +19,7 @@ class VentanaArchivoJson : public QDialog {
     Q_OBJECT
 
   public:
-    explicit VentanaArchivoJson(base::Dialogo& dialogo, QWidget* madre = nullptr);
+    VentanaArchivoJson(base::Dialogo& dialogo, Imprimir imprimir, QWidget* madre = nullptr);
     // DatosArchivo: pide el archivo y llena los campos; sin archivo la ventana queda vacía.
     void Cargar(const std::filesystem::path& carpeta);
 
@@ -32,6 +33,7 @@ class VentanaArchivoJson : public QDialog {
     void Bloquear(bool bloqueados);
 
     base::Dialogo& dialogo_;
+    Imprimir imprimir_;
     std::optional<outputs::ArchivoJson> archivo_;
     // JORNADA, AÑO, RECEPTOR Nº: los que se pueden cambiar.
     std::array<QLineEdit*, 3> editables_{};

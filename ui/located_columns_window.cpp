@@ -7,12 +7,14 @@
 #include <QTableWidget>
 #include <QVBoxLayout>
 
+#include "outputs/printed_reports.h"
 #include "ui/qt_text.h"
 #include "ui/report_grid.h"
 
 namespace quinteva::ui {
-VentanaColumnasAcertadas::VentanaColumnasAcertadas(
-    const std::vector<outputs::FilaLocalizada>& filas, QWidget* madre)
+VentanaColumnasAcertadas::VentanaColumnasAcertadas(std::vector<outputs::FilaLocalizada> filas,
+                                                   std::string jornada, Imprimir imprimir,
+                                                   QWidget* madre)
     : QDialog(madre) {
     setObjectName(QStringLiteral("VentanaColumnasAcertadas"));
     setWindowTitle(Q(outputs::kTituloLocalizadas));
@@ -35,7 +37,11 @@ VentanaColumnasAcertadas::VentanaColumnasAcertadas(
     r->horizontalHeader()->setStretchLastSection(true);
     r->setMinimumSize(3 * ancho + 30, r->verticalHeader()->defaultSectionSize() * 14);
     caja->addWidget(r);
-    BotonesListado(this, caja);
+    connect(
+        BotonesListado(this, caja), &QPushButton::clicked, this,
+        [filas = std::move(filas), jornada = std::move(jornada), imprimir = std::move(imprimir)] {
+            imprimir(outputs::ImpresionColumnasLocalizadas(jornada, filas));
+        });
 }
 
 }  // namespace quinteva::ui

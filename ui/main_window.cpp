@@ -243,6 +243,9 @@ void VentanaPrincipal::CrearMenus() {
     listadoReducidas_ = Accion(listados, QStringLiteral("De Apuestas &Reducidas"),
                                QStringLiteral("AccionListadoReducidas"), false);
     connect(listadoReducidas_, &QAction::triggered, this, [this] { Listado(false); });
+    visorQuinielas_ = Accion(listados, QStringLiteral("&Visor de Quinielas"),
+                             QStringLiteral("AccionVisorQuinielas"), false);
+    connect(visorQuinielas_, &QAction::triggered, this, &VentanaPrincipal::VisorDeQuinielas);
     connect(Accion(ver, QStringLiteral("&Quinielas"), QStringLiteral("AccionQuinielas")),
             &QAction::triggered, this, &VentanaPrincipal::VerQuinielas);
     connect(Accion(ver, QStringLiteral("&Estadísticas"), QStringLiteral("AccionEstadisticas")),
@@ -327,7 +330,7 @@ void VentanaPrincipal::CrearBarra() {
     boton(QStyle::SP_ArrowDown, QStringLiteral("Importar"), QStringLiteral("BarraImportar"),
           nullptr);
     boton(QStyle::SP_FileDialogDetailedView, QStringLiteral("Imprimir"),
-          QStringLiteral("BarraImprimir"), nullptr);
+          QStringLiteral("BarraImprimir"), visorQuinielas_);
     boton(QStyle::SP_FileDialogListView, QStringLiteral("Listado de lo jugado"),
           QStringLiteral("BarraListado"), nullptr);
     listadoJugado_ = findChild<QAction*>(QStringLiteral("BarraListado"));

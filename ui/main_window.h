@@ -122,6 +122,8 @@ class VentanaPrincipal : public QMainWindow {
     void ImprimirEnBoletos();
     void ImprimirEnPapel();
     void SeleccionarImpresora();
+    // "Visor de Quinielas": el informe de las columnas que se juegan, con su vista previa.
+    void VisorDeQuinielas();
     void EliminarManual();
     void AnadirManual();
     // "Quinteva [Listado de Apuestas]" de las Condicionadas o de las Reducidas.
@@ -197,6 +199,8 @@ class VentanaPrincipal : public QMainWindow {
     int AnioDeLaJornada() const;
     // Las columnas activas del conjunto que se juega, guardado, y la fecha de su Jornada.
     std::optional<ColumnasAImprimir> ColumnasJugadas();
+    // "Jornada " & número & ", " & fecha, la línea de los listados impresos.
+    std::string LineaJornada() const;
     void RefrescarPaginaBoletos();
 
     void Habilitar(int pagina, bool habilitada);
@@ -231,6 +235,7 @@ class VentanaPrincipal : public QMainWindow {
     QAction* listadoCondicionadas_ = nullptr;
     QAction* listadoReducidas_ = nullptr;
     QAction* listadoJugado_ = nullptr;
+    QAction* visorQuinielas_ = nullptr;
     QAction* comprobarAciertos_ = nullptr;
 
     TrabajoEnSegundoPlano trabajo_;

@@ -168,11 +168,11 @@ void VentanaPrincipal::Listado(bool condicionadas) {
     AbrirVentana(new VentanaListado(condicionadas ? QStringLiteral("Apuestas Condicionadas")
                                                   : QStringLiteral("Apuestas Reducidas"),
                                     s_.carpetaTrabajo, comb_.totalGeneradas, comb_.totalReducidas,
-                                    this));
+                                    {LineaJornada(), s_.dialogo, s_.imprimir}, this));
 }
 
 void VentanaPrincipal::ArchivoJson() {
-    auto* ventana = new VentanaArchivoJson(s_.dialogo, this);
+    auto* ventana = new VentanaArchivoJson(s_.dialogo, s_.imprimir, this);
     AbrirVentana(ventana);
     ventana->Cargar(comb_.ruta.parent_path());
 }
@@ -196,6 +196,7 @@ void VentanaPrincipal::RefrescarPaginaBoletos() {
     listadoCondicionadas_->setEnabled(comb_.totalGeneradas > 0);
     listadoReducidas_->setEnabled(comb_.totalReducidas > 0);
     listadoJugado_->setEnabled(elegida);
+    visorQuinielas_->setEnabled(elegida);
 }
 
 }  // namespace quinteva::ui

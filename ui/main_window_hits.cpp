@@ -9,11 +9,11 @@ namespace quinteva::ui {
 
 void VentanaPrincipal::ComprobarAciertos() {
     if (trabajo_.EnCurso() || fechaJornada_.isEmpty()) return;
-    AbrirVentana(
-        new VentanaAciertos({s_.carpetaTrabajo, temporada_.carpetaTemporada,
-                             seasons::TemporadaDeCarpeta(temporada_.temporadaActual), comb_.jornada,
-                             std::to_string(AnioDeLaJornada()), comb_, s_.dialogo},
-                            this));
+    AbrirVentana(new VentanaAciertos(
+        {s_.carpetaTrabajo, temporada_.carpetaTemporada,
+         seasons::TemporadaDeCarpeta(temporada_.temporadaActual), comb_.jornada,
+         std::to_string(AnioDeLaJornada()), comb_, s_.dialogo, LineaJornada(), s_.imprimir},
+        this));
 }
 
 void VentanaPrincipal::AnalisisDeDatos() {

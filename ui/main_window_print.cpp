@@ -1,13 +1,17 @@
 // Los mandatos de la ventana principal que imprimen las columnas que se juegan.
 #include "builders/boletos.h"
 #include "outputs/played_set.h"
+#include "outputs/printed_reports.h"
 #include "ui/main_window.h"
 #include "ui/paper_print_window.h"
 #include "ui/printer_select_window.h"
 #include "ui/qt_text.h"
+#include "ui/report_viewer.h"
 #include "ui/slip_print_window.h"
 
 namespace quinteva::ui {
+
+namespace fs = std::filesystem;
 
 std::optional<ColumnasAImprimir> VentanaPrincipal::ColumnasJugadas() {
     if (!ExigirNombre()) return std::nullopt;
@@ -22,6 +26,10 @@ std::optional<ColumnasAImprimir> VentanaPrincipal::ColumnasJugadas() {
     }
 }
 
+std::string VentanaPrincipal::LineaJornada() const {
+    return "Jornada " + std::to_string(comb_.jornada) + ", " + S(fechaJornada_);
+}
+
 void VentanaPrincipal::ImprimirEnBoletos() {
     if (auto columnas = ColumnasJugadas()) {
         AbrirVentana(new VentanaImprimirBoletos(std::move(*columnas), s_.ajustes, s_.dialogo,
@@ -34,6 +42,17 @@ void VentanaPrincipal::ImprimirEnPapel() {
         AbrirVentana(new VentanaImprimirPapel(std::move(*columnas), s_.ajustes, s_.dialogo,
                                               s_.imprimir, this));
     }
+}
+
+void VentanaPrincipal::VisorDeQuinielas() {
+    const auto columnas = ColumnasJugadas();
+    if (!columnas) return;
+    const fs::path ruta = comb_.ruta;
+    auto informe = outputs::InformeQuinielas({comb_.jornada, columnas->fecha, ruta.stem().string()},
+                                             columnas->activas);
+    AbrirVentana(new VentanaVisor({QStringLiteral("Visor de Quinielas"), std::move(informe),
+                                   fs::path(ruta).replace_extension(".pdf")},
+                                  s_.dialogo, s_.imprimir, this));
 }
 
 void VentanaPrincipal::SeleccionarImpresora() {

@@ -79,8 +79,8 @@ void VentanaPrincipal::ResultadosQuiniela() {
 void VentanaPrincipal::VerQuinielas() {
     if (trabajo_.EnCurso() || !ExigirNombre()) return;
     try {
-        AbrirVentana(
-            new VentanaVerQuinielas(outputs::VistaQuinielas(comb_.ruta, S(fechaJornada_)), this));
+        AbrirVentana(new VentanaVerQuinielas(outputs::VistaQuinielas(comb_.ruta, S(fechaJornada_)),
+                                             s_.imprimir, this));
     } catch (const std::exception& e) {
         Fallo(e);
     }
@@ -91,7 +91,8 @@ void VentanaPrincipal::Estadisticas() {
 }
 
 void VentanaPrincipal::ColumnasGanadoras() {
-    AbrirVentana(new VentanaColumnasGanadoras(temporada_.carpetaTemporada, s_.dialogo, this));
+    AbrirVentana(
+        new VentanaColumnasGanadoras(temporada_.carpetaTemporada, s_.dialogo, s_.imprimir, this));
 }
 
 void VentanaPrincipal::HistoricoDeResultados() {

@@ -9,6 +9,7 @@
 #include <QTableWidget>
 #include <QVBoxLayout>
 
+#include "outputs/printed_reports.h"
 #include "ui/qt_text.h"
 #include "ui/season_window_parts.h"
 
@@ -20,8 +21,9 @@ const QColor kMarca(0x20, 0x20, 0x20);
 
 }  // namespace
 
-VentanaVerQuinielas::VentanaVerQuinielas(outputs::VistaQuinielas vista, QWidget* madre)
-    : QDialog(madre), vista_(std::move(vista)) {
+VentanaVerQuinielas::VentanaVerQuinielas(outputs::VistaQuinielas vista, Imprimir imprimir,
+                                         QWidget* madre)
+    : QDialog(madre), vista_(std::move(vista)), imprimir_(std::move(imprimir)) {
     setObjectName(QStringLiteral("VentanaVerQuinielas"));
     setWindowTitle(QStringLiteral("Ver Quinielas"));
     auto* caja = new QVBoxLayout(this);
@@ -67,7 +69,13 @@ VentanaVerQuinielas::VentanaVerQuinielas(outputs::VistaQuinielas vista, QWidget*
     auto* botones = new QHBoxLayout;
     QPushButton* imprimir = BotonVentana(this, botones, QStringLiteral("&Imprimir Una"),
                                          QStringLiteral("BotonImprimirUna"));
-    imprimir->setEnabled(false);
+    imprimir->setEnabled(vista_.Cuenta() > 0);
+    connect(imprimir, &QPushButton::clicked, this, [this] {
+        const int indice = barra_->value();
+        imprimir_(outputs::ImpresionQuiniela(vista_.Cabecera(),
+                                             outputs::VistaQuinielas::Titulo(indice + 1),
+                                             vista_.Columna(indice)));
+    });
     connect(
         BotonVentana(this, botones, QStringLiteral("&Ver Todas"), QStringLiteral("BotonVerTodas")),
         &QPushButton::clicked, this, &VentanaVerQuinielas::VerTodas);

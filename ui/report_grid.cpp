@@ -43,11 +43,10 @@ void BotonAceptar(QDialog* ventana, QVBoxLayout* caja) {
     aceptar->setFocus();
 }
 
-void BotonesListado(QDialog* ventana, QVBoxLayout* caja) {
+QPushButton* BotonesListado(QDialog* ventana, QVBoxLayout* caja) {
     auto* botones = new QHBoxLayout;
     auto* imprimir = new QPushButton(QStringLiteral("&Imprimir"), ventana);
     imprimir->setObjectName(QStringLiteral("BotonImprimir"));
-    imprimir->setEnabled(false);
     auto* salir = new QPushButton(QStringLiteral("&Salir"), ventana);
     salir->setObjectName(QStringLiteral("BotonSalir"));
     botones->addWidget(imprimir);
@@ -55,6 +54,7 @@ void BotonesListado(QDialog* ventana, QVBoxLayout* caja) {
     botones->addWidget(salir);
     caja->addLayout(botones);
     QObject::connect(salir, &QPushButton::clicked, ventana, &QDialog::accept);
+    return imprimir;
 }
 
 }  // namespace quinteva::ui

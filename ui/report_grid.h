@@ -4,6 +4,7 @@
 #include <QStringList>
 
 class QDialog;
+class QPushButton;
 class QTableWidget;
 class QTableWidgetItem;
 class QVBoxLayout;
@@ -18,8 +19,8 @@ QTableWidget* RejillaInforme(QWidget* madre, const QString& nombre, int filas,
 QTableWidgetItem* CeldaInforme(const QString& texto, bool negrita, bool derecha);
 // "&Aceptar" que cierra la ventana, con el foco al abrirse.
 void BotonAceptar(QDialog* ventana, QVBoxLayout* caja);
-// La fila de los listados: "&Imprimir" (deshabilitado: la impresión llega con las demás) y
+// La fila de los listados: "&Imprimir", que devuelve para que cada uno diga qué imprime, y
 // "&Salir", que cierra la ventana.
-void BotonesListado(QDialog* ventana, QVBoxLayout* caja);
+QPushButton* BotonesListado(QDialog* ventana, QVBoxLayout* caja);
 
 }  // namespace quinteva::ui

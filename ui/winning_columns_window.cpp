@@ -8,6 +8,7 @@
 #include <QTableWidget>
 #include <QVBoxLayout>
 
+#include "outputs/printed_reports.h"
 #include "seasons/statistics.h"
 #include "ui/qt_text.h"
 #include "ui/report_grid.h"
@@ -16,8 +17,12 @@
 namespace quinteva::ui {
 
 VentanaColumnasGanadoras::VentanaColumnasGanadoras(std::filesystem::path carpetaTemporada,
-                                                   base::Dialogo& dialogo, QWidget* madre)
-    : QDialog(madre), carpetaTemporada_(std::move(carpetaTemporada)), dialogo_(dialogo) {
+                                                   base::Dialogo& dialogo, Imprimir imprimir,
+                                                   QWidget* madre)
+    : QDialog(madre),
+      carpetaTemporada_(std::move(carpetaTemporada)),
+      dialogo_(dialogo),
+      imprimir_(std::move(imprimir)) {
     setObjectName(QStringLiteral("VentanaColumnasGanadoras"));
     setWindowTitle(QStringLiteral("Columnas Ganadoras"));
     auto* caja = new QVBoxLayout(this);
@@ -41,10 +46,9 @@ VentanaColumnasGanadoras::VentanaColumnasGanadoras(std::filesystem::path carpeta
     tabla_->setFont(QFont(QStringLiteral("Courier New"), tabla_->font().pointSize()));
     caja->addWidget(tabla_, 1);
     auto* botones = new QHBoxLayout;
-    QPushButton* imprimir =
-        BotonVentana(this, botones, QStringLiteral("&Imprimir"), QStringLiteral("BotonImprimir"));
-    imprimir->setEnabled(false);
-    imprimir->setToolTip(QStringLiteral("La impresión llegará con el visor de informes."));
+    connect(
+        BotonVentana(this, botones, QStringLiteral("&Imprimir"), QStringLiteral("BotonImprimir")),
+        &QPushButton::clicked, this, &VentanaColumnasGanadoras::ImprimirColumnas);
     botones->addStretch();
     connect(BotonVentana(this, botones, QStringLiteral("&Cerrar"), QStringLiteral("BotonCerrar")),
             &QPushButton::clicked, this, &QDialog::accept);
@@ -64,6 +68,17 @@ void VentanaColumnasGanadoras::Llenar() {
             tabla_->setItem(f, 0, CeldaInforme(QString::number(fila.jornada), false, true));
             tabla_->setItem(f, 1, CeldaInforme(Q(fila.columna), false, false));
         }
+    });
+}
+
+void VentanaColumnasGanadoras::ImprimirColumnas() {
+    ConAviso(dialogo_, [this] {
+        const std::string temporada = S(temporada_->currentText());
+        std::vector<std::pair<int, std::string>> filas;
+        for (const auto& fila : seasons::ColumnasGanadoras(carpetaTemporada_, temporada)) {
+            filas.emplace_back(fila.jornada, fila.columna);
+        }
+        imprimir_(outputs::ImpresionColumnasGanadoras(temporada, filas));
     });
 }
 

@@ -229,7 +229,18 @@ class PruebaBoletos : public QObject {
         QCOMPARE(campo("CampoImporte")->text(), QStringLiteral("2,25 "));
         QCOMPARE(campo("CampoIgualPleno")->text(), QStringLiteral("SI"));
         QVERIFY(campo("CampoJornada")->isReadOnly());
-        QVERIFY(!Hijo<QPushButton>(*lector, "BotonImprimir")->isEnabled());
+        // "&Imprimir": las siete líneas, rótulo en redonda y valor en negrita, a 1500 twips.
+        Pulsar(*lector, "BotonImprimir");
+        QCOMPARE(inst.impresas.size(), 1U);
+        const auto& textos = inst.impresas[0].Textos();
+        QCOMPARE(textos.size(), 14U);
+        QCOMPARE(textos[0].texto, std::string("JORNADA  "));
+        QCOMPARE(textos[0].x, 1500.0F);
+        QCOMPARE(textos[0].y, 1500.0F);
+        QCOMPARE(textos[0].fuente, std::string("Ms Sans Serif"));
+        QVERIFY(!textos[0].negrita);
+        QCOMPARE(textos[9].texto, std::string("1 "));
+        QVERIFY(textos[9].negrita);
         const std::size_t antesDeModificar = inst.dialogo.Registro().size();
         Pulsar(*lector, "BotonModificar");
         QVERIFY(!campo("CampoJornada")->isReadOnly());

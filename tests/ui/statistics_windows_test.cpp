@@ -72,9 +72,14 @@ class PruebaVentanasEstadisticas : public QObject {
         QCOMPARE(tabla->item(0, 0)->text(), QString::number(filas[0].jornada));
         QCOMPARE(tabla->item(0, 1)->text().toStdString(), filas[0].columna);
         QVERIFY(tabla->item(0, 1)->text().contains(QLatin1Char('/')));
-        auto* imprimir = Hijo<QPushButton>(*ventana, QStringLiteral("BotonImprimir"));
-        QVERIFY(!imprimir->isEnabled());
-        QVERIFY(!imprimir->toolTip().isEmpty());
+        // "&Imprimir": el título y una línea por Jornada, en "Courier New".
+        pruebas::Pulsar(*ventana, "BotonImprimir");
+        QCOMPARE(inst.impresas.size(), 1U);
+        const auto& textos = inst.impresas[0].Textos();
+        QCOMPARE(textos[0].texto, std::string("Col. Ganadoras Temporada 23/24"));
+        QCOMPARE(textos[0].fuente, std::string("Courier New"));
+        QCOMPARE(textos.size(), filas.size() + 2);
+        QVERIFY(textos[2].texto.ends_with(filas[0].columna));
     }
 
     void ElHistoricoDeUnEquipoYUnCambioDeNombre() {
