@@ -67,10 +67,10 @@ VentanaVerQuinielas::VentanaVerQuinielas(outputs::VistaQuinielas vista, Imprimir
     caja->addWidget(todas_, 1);
 
     auto* botones = new QHBoxLayout;
-    QPushButton* imprimir = BotonVentana(this, botones, QStringLiteral("&Imprimir Una"),
-                                         QStringLiteral("BotonImprimirUna"));
-    imprimir->setEnabled(vista_.Cuenta() > 0);
-    connect(imprimir, &QPushButton::clicked, this, [this] {
+    QPushButton* imprimirUna = BotonVentana(this, botones, QStringLiteral("&Imprimir Una"),
+                                            QStringLiteral("BotonImprimirUna"));
+    imprimirUna->setEnabled(vista_.Cuenta() > 0);
+    connect(imprimirUna, &QPushButton::clicked, this, [this] {
         const int indice = barra_->value();
         imprimir_(outputs::ImpresionQuiniela(vista_.Cabecera(),
                                              outputs::VistaQuinielas::Titulo(indice + 1),
