@@ -239,8 +239,8 @@ class PruebaBoletos : public QObject {
         QCOMPARE(textos[0].y, 1500.0F);
         QCOMPARE(textos[0].fuente, std::string("Ms Sans Serif"));
         QVERIFY(!textos[0].negrita);
-        QCOMPARE(textos[9].texto, std::string("1 "));
-        QVERIFY(textos[9].negrita);
+        QCOMPARE(textos[11].texto, std::string("1 "));  // N.º BOLETOS
+        QVERIFY(textos[11].negrita);
         const std::size_t antesDeModificar = inst.dialogo.Registro().size();
         Pulsar(*lector, "BotonModificar");
         QVERIFY(!campo("CampoJornada")->isReadOnly());

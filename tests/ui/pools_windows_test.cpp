@@ -178,8 +178,8 @@ class PruebaVentanasQuinielas : public QObject {
         QCOMPARE(boleto->item(14, 0)->text(), QString(QChar::fromLatin1(columnas[2].pleno[0])));
         pruebas::Pulsar(*ver, "BotonImprimirUna");
         QCOMPARE(inst.impresas.size(), 1U);
-        QCOMPARE(inst.impresas[0].Textos()[3].texto, std::string("Quiniela Nº3"));
-        QCOMPARE(inst.impresas[0].Textos()[4].texto, std::string("1   ") + columnas[2].columna[0]);
+        QCOMPARE(inst.impresas[0].Textos()[2].texto, std::string("Quiniela Nº3"));
+        QCOMPARE(inst.impresas[0].Textos()[3].texto, std::string("1   ") + columnas[2].columna[0]);
         pruebas::Pulsar(*ver, "BotonVerTodas");
         auto* todas = Hijo<QListWidget>(*ver, QStringLiteral("ListaTodas"));
         QCOMPARE(todas->count(), static_cast<int>(columnas.size()));
