@@ -14,10 +14,13 @@
 #include "outputs/print_slips.h"
 #include "outputs/slip_marks.h"
 #include "tests/ui/window_fixture.h"
+#include "ui/bets_list_window.h"
+#include "ui/located_columns_window.h"
 #include "ui/paper_print_window.h"
 #include "ui/print_range_dialog.h"
 #include "ui/printer_select_window.h"
 #include "ui/printing.h"
+#include "ui/report_viewer.h"
 #include "ui/slip_print_window.h"
 
 using namespace quinteva;
@@ -152,6 +155,50 @@ class PruebaVentanasImpresion : public QObject {
         QCOMPARE(inst.impresas.size(), 2U);
         for (const auto& t : inst.impresas[1].Textos()) QVERIFY(t.texto != outputs::kNotaRecortar);
         ventana->close();
+    }
+
+    void ElVisorDeQuinielasImprimeYGuardaSuPdf() {
+        pruebas::Instalacion inst;
+        const fs::path ruta = inst.documentos / "Visor.uxd";
+        auto v = pruebas::Guardada(inst, ruta);
+        QVERIFY(!Hijo<QAction>(*v, "BarraImprimir")->isEnabled());
+        pruebas::Marcar(*v, "OpcionReducida");
+        QVERIFY(Hijo<QAction>(*v, "BarraImprimir")->isEnabled());
+        auto* visor = pruebas::AbrirDesdeMenu<ui::VentanaVisor>(*v, "AccionVisorQuinielas");
+        pruebas::Pulsar(*visor, "BotonImprimir");
+        QCOMPARE(inst.impresas.size(), 1U);
+        QCOMPARE(inst.impresas[0].Textos()[0].texto, std::string("Quinteva - Quinielas"));
+        QCOMPARE(inst.impresas[0].Textos()[1].texto,
+                 "Jornada nº: 25, Fecha: " + pruebas::TextoDe(*v, "FechaJornada").toStdString() +
+                     ", Nombre: Visor");
+        const fs::path pdf = inst.documentos / "Visor.pdf";
+        inst.dialogo.Responder(std::optional<fs::path>(pdf));
+        pruebas::Pulsar(*visor, "BotonGuardarPdf");
+        std::ifstream f(pdf, std::ios::binary);
+        std::string cabecera(8, ' ');
+        f.read(cabecera.data(), 8);
+        QCOMPARE(cabecera, std::string("%PDF-1.4"));
+        QCOMPARE(inst.dialogo.Registro().back().texto, std::string("Guardar PDF"));
+        visor->close();
+    }
+
+    void ElListadoYLasColumnasLocalizadasSeImprimen() {
+        pruebas::Instalacion inst;
+        auto v = pruebas::Reducida(inst);
+        auto* listado = pruebas::AbrirDesdeMenu<ui::VentanaListado>(*v, "AccionListadoReducidas");
+        pruebas::Pulsar(*listado, "BotonImprimir");
+        QCOMPARE(inst.impresas.size(), 1U);
+        const auto& textos = inst.impresas[0].Textos();
+        QCOMPARE(textos[1].texto,
+                 "Jornada 25, " + pruebas::TextoDe(*v, "FechaJornada").toStdString());
+        QCOMPARE(textos.size(), static_cast<std::size_t>(v->Combinacion().totalReducidas) + 2);
+        listado->close();
+
+        ui::VentanaColumnasAcertadas localizadas({{"1", "3", "14"}}, "Jornada 7, 05/10/24",
+                                                 inst.Impresora());
+        pruebas::Pulsar(localizadas, "BotonImprimir");
+        QCOMPARE(inst.impresas.size(), 2U);
+        QCOMPARE(inst.impresas[1].Textos().back().texto, std::string("1         3         14"));
     }
 
     void LaImpresoraElegidaSeGuardaYUnaQueYaNoEstaNoSeUsa() {
