@@ -39,6 +39,7 @@
 #include "ui/printing.h"
 #include "ui/program_update_window.h"
 #include "ui/remove_columns_window.h"
+#include "ui/report_viewer.h"
 #include "ui/report_windows.h"
 #include "ui/season_update_window.h"
 #include "ui/slip_print_window.h"
@@ -278,9 +279,14 @@ class PruebaCapturas : public QObject {
         pruebas::Pulsar(*papel, "BotonAjustarImpresora");
         Capturar(*papel, QStringLiteral("ventana_imprimir_papel_ajuste"));
         papel->close();
-        QCOMPARE(inst.impresas.size(), 2U);
+        auto* visor = pruebas::AbrirDesdeMenu<ui::VentanaVisor>(*v, "AccionVisorQuinielas");
+        Capturar(*visor, QStringLiteral("ventana_visor_quinielas"));
+        pruebas::Pulsar(*visor, "BotonImprimir");
+        visor->close();
+        QCOMPARE(inst.impresas.size(), 3U);
         CapturarImpresion(inst.impresas[0], QStringLiteral("impresion_boletos"));
         CapturarImpresion(inst.impresas[1], QStringLiteral("impresion_papel_blanco"));
+        CapturarImpresion(inst.impresas[2], QStringLiteral("impresion_visor_quinielas"));
         auto* impresora =
             pruebas::AbrirDesdeMenu<ui::VentanaSeleccionImpresora>(*v, "AccionImpresora");
         Capturar(*impresora, QStringLiteral("ventana_seleccion_impresora"));
