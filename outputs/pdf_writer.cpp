@@ -30,6 +30,16 @@ std::string Cadena(const std::string& utf8) {
     return pdf + ")";
 }
 
+// Las cuatro fuentes del PDF: "Courier New" de paso fijo y las demás de palo seco, cada una en
+// redonda o negrita.
+constexpr std::array<std::string_view, 4> kFuentes = {"Helvetica", "Helvetica-Bold", "Courier",
+                                                      "Courier-Bold"};
+
+std::string NombreDeFuente(const TextoImpreso& t) {
+    const int fija = t.fuente.starts_with("Courier") ? 2 : 0;
+    return "F" + std::to_string(fija + (t.negrita ? 1 : 0) + 1);
+}
+
 // El contenido de una página: sus trazos y sus textos.
 std::string Contenido(const Impresion& impresion, int pagina, float alto) {
     std::string c;
@@ -43,7 +53,7 @@ std::string Contenido(const Impresion& impresion, int pagina, float alto) {
         if (t.pagina != pagina) continue;
         const float cuerpo = static_cast<float>(t.tamano);
         const float base = alto - t.y * kPuntosPorTwip - kAscendente * cuerpo;
-        c += "BT /" + std::string(t.negrita ? "F2 " : "F1 ") + Numero(cuerpo) + " Tf " +
+        c += "BT /" + NombreDeFuente(t) + " " + Numero(cuerpo) + " Tf " +
              Numero(t.x * kPuntosPorTwip) + " " + Numero(base) + " Td " + Cadena(t.texto) +
              " Tj ET\n";
     }
@@ -91,10 +101,12 @@ std::string PdfDeImpresion(const Impresion& impresion, float anchoTwips, float a
     Documento d;
     const int raiz = d.Objeto("");
     const int paginas = d.Objeto("");
-    const int normal = d.Objeto(
-        "<< /Type /Font /Subtype /Type1 /BaseFont /Helvetica /Encoding /WinAnsiEncoding >>");
-    const int negrita = d.Objeto(
-        "<< /Type /Font /Subtype /Type1 /BaseFont /Helvetica-Bold /Encoding /WinAnsiEncoding >>");
+    std::string fuentes;
+    for (std::size_t f = 0; f < kFuentes.size(); ++f) {
+        const int objeto = d.Objeto("<< /Type /Font /Subtype /Type1 /BaseFont /" +
+                                    std::string(kFuentes[f]) + " /Encoding /WinAnsiEncoding >>");
+        fuentes += "/F" + std::to_string(f + 1) + " " + std::to_string(objeto) + " 0 R ";
+    }
     std::string hijas;
     const int total = std::max(impresion.Paginas(), 1);
     for (int p = 1; p <= total; ++p) {

@@ -19,8 +19,8 @@ constexpr std::string_view kSinImpresoras = "No hay ninguna impresora instalada 
 QFont Fuente(const outputs::TextoImpreso& t, QPaintDevice* dispositivo) {
     QFont fuente(Q(t.fuente), -1, t.negrita ? QFont::Bold : QFont::Normal);
     fuente.setPointSizeF(t.tamano);
-    // "Arial" donde no esté: una de sus métricas (Liberation Sans, Helvetica...).
-    fuente.setStyleHint(QFont::Helvetica);
+    // Donde no estén "Arial" o "Courier New", una de su familia: de paso fijo o de palo seco.
+    fuente.setStyleHint(t.fuente.starts_with("Courier") ? QFont::TypeWriter : QFont::Helvetica);
     return QFont(fuente, dispositivo);
 }
 
