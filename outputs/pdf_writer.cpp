@@ -1,5 +1,6 @@
 #include "outputs/pdf_writer.h"
 
+#include <array>
 #include <cstdio>
 #include <map>
 #include <vector>
@@ -115,9 +116,8 @@ std::string PdfDeImpresion(const Impresion& impresion, float anchoTwips, float a
                                    " >>\nstream\n" + contenido + "endstream");
         const int pagina =
             d.Objeto("<< /Type /Page /Parent " + std::to_string(paginas) + " 0 R /MediaBox [0 0 " +
-                     Numero(ancho) + " " + Numero(alto) + "] /Resources << /Font << /F1 " +
-                     std::to_string(normal) + " 0 R /F2 " + std::to_string(negrita) +
-                     " 0 R >> >> /Contents " + std::to_string(flujo) + " 0 R >>");
+                     Numero(ancho) + " " + Numero(alto) + "] /Resources << /Font << " + fuentes +
+                     ">> >> /Contents " + std::to_string(flujo) + " 0 R >>");
         hijas += std::to_string(pagina) + " 0 R ";
     }
     d.Cambiar(raiz, "<< /Type /Catalog /Pages " + std::to_string(paginas) + " 0 R >>");

@@ -10,9 +10,9 @@ namespace quinteva::outputs {
 inline constexpr float kAnchoA4 = 11906.0F;
 inline constexpr float kAltoA4 = 16838.0F;
 
-// Un PDF de las páginas de una impresión, sin nada más que el estándar: "Arial" sale en
-// Helvetica (las métricas de las dos son las mismas), el texto en WinAnsi (Windows-1252) y la
-// posición de cada texto es la de su esquina superior izquierda, como en la impresora.
+// Un PDF de las páginas de una impresión, sin nada más que el estándar: "Courier New" sale en
+// Courier y las demás en Helvetica (las métricas de Arial), el texto en WinAnsi (Windows-1252) y
+// la posición de cada texto es la de su esquina superior izquierda, como en la impresora.
 std::string PdfDeImpresion(const Impresion& impresion, float anchoTwips = kAnchoA4,
                            float altoTwips = kAltoA4);
 

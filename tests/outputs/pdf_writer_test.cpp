@@ -79,7 +79,7 @@ TEST(Pdf, CadaObjetoDondeDiceLaTablaDeReferencias) {
                   0)
             << objeto;
     }
-    EXPECT_EQ(objeto, 7);  // catálogo, páginas, dos fuentes, un contenido y una página
+    EXPECT_EQ(objeto, 9);  // catálogo, páginas, cuatro fuentes, un contenido y una página
 }
 
 TEST(Pdf, UnaPaginaEnBlancoSiNoHayNada) {
