@@ -30,6 +30,11 @@ void Impresion::NuevaPagina() {
     if (Paginas() == pagina_) ++pagina_;
 }
 
+void Impresion::Reservar(std::size_t textos, std::size_t trazos) {
+    textos_.reserve(textos);
+    trazos_.reserve(trazos);
+}
+
 int Impresion::Paginas() const {
     int paginas = 0;
     if (!textos_.empty()) paginas = textos_.back().pagina;

@@ -44,6 +44,8 @@ class Impresion {
     void Linea(float x1, float y1, float x2, float y2, bool punteado);
     // La página siguiente empieza con lo primero que se imprima en ella.
     void NuevaPagina();
+    // Sitio para tantos textos y trazos, cuando se sabe de antemano.
+    void Reservar(std::size_t textos, std::size_t trazos);
 
     // Las páginas con algo impreso.
     int Paginas() const;
