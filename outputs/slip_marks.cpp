@@ -109,6 +109,11 @@ Impresion ImprimirTodos(std::span<const engine::RegistroColumna> activas, std::i
     int k = 0;
     const std::int32_t ultima =
         std::min<std::int32_t>(hasta, static_cast<std::int32_t>(activas.size()));
+    const auto columnas = static_cast<std::size_t>(std::max(ultima - std::max(desde, 1) + 1, 0));
+    const std::size_t boletos = columnas / kColumnasPorBoleto + 1;
+    // Catorce marcas por columna y, por boleto, la cabecera, el producto, el Pleno y el marco.
+    hoja.Reservar(columnas * engine::kPartidos + boletos * 5,
+                  disposicion.marco ? boletos * (24 * engine::kPartidos + 12) : 0);
     for (std::int32_t n = std::max(desde, 1); n <= ultima; ++n) {
         ++k;
         const std::int32_t boleto = (n - 1) / kColumnasPorBoleto + 1;
