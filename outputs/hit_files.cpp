@@ -33,24 +33,12 @@ void TerminarArchivo(Comprobacion& c, base::Dialogo& dialogo) {
     dialogo.Mensaje(kMsgComprobacionFinalizada);
 }
 
-// Las columnas de "combinacion": cada "=" empieza una, con sus 14 signos cada dos caracteres;
-// el Boleto acaba tras numApuestas columnas o en el ":". Un signo que falta no acierta.
+// Las columnas de un Boleto en su orden; un signo que falta no acierta.
 void CompararBoleto(const BoletoOficial& boleto, const Comparador& comparador, std::int32_t& numero,
                     TablaAciertos& tabla) {
-    const std::string& texto = boleto.combinacion;
-    const std::string pleno =
-        texto.size() < 3 ? std::string() : std::string{texto[texto.size() - 3], texto.back()};
-    int enBoleto = 0;
-    for (std::size_t i = 0; i < texto.size() && texto[i] != ':'; ++i) {
-        if (texto[i] != '=') continue;
-        engine::Columna signos{};
-        for (std::size_t p = 0; p < signos.size(); ++p) {
-            const std::size_t donde = i + 1 + 2 * p;
-            if (donde < texto.size()) signos[p] = texto[donde];
-        }
+    CadaColumnaDeBoleto(boleto, [&](const engine::Columna& signos, const std::string& pleno) {
         comparador.Anotar(signos.data(), pleno, ++numero, tabla);
-        if (++enBoleto == boleto.numApuestas) break;
-    }
+    });
 }
 
 bool EmpiezaJson(std::string_view bytes) {

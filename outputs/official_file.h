@@ -82,6 +82,27 @@ std::string ArbolGuardado(JsonBag& raiz, const CabeceraOficial& cabecera);
 // claves que no están en la lista se ignoran. Un valor que no cabe en su campo desborda.
 ArchivoOficialLeido RecorrerArchivoOficial(const JsonBag& raiz);
 
+// Las columnas de "combinacion" de un Boleto: cada "=" empieza una, con sus 14 signos cada dos
+// caracteres (un signo que falta queda a cero); el Boleto acaba tras numApuestas columnas o
+// en el ":". El Pleno es el carácter dos antes del final y el último, el mismo para todas.
+template <typename F>
+void CadaColumnaDeBoleto(const BoletoOficial& boleto, F columna) {
+    const std::string& texto = boleto.combinacion;
+    const std::string pleno =
+        texto.size() < 3 ? std::string() : std::string{texto[texto.size() - 3], texto.back()};
+    int enBoleto = 0;
+    for (std::size_t i = 0; i < texto.size() && texto[i] != ':'; ++i) {
+        if (texto[i] != '=') continue;
+        engine::Columna signos{};
+        for (std::size_t p = 0; p < signos.size(); ++p) {
+            const std::size_t donde = i + 1 + 2 * p;
+            if (donde < texto.size()) signos[p] = texto[donde];
+        }
+        columna(signos, pleno);
+        if (++enBoleto == boleto.numApuestas) break;
+    }
+}
+
 // El texto del archivo en una sola línea, en Windows-1252, de una vez y sin nada más.
 void EscribirArchivoOficial(const std::filesystem::path& ruta, const JsonBag& raiz);
 // El texto de un archivo (Windows-1252) en UTF-8.

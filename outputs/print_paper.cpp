@@ -5,6 +5,7 @@
 #include <cstdlib>
 
 #include "base/text1252.h"
+#include "outputs/pdf_writer.h"
 #include "outputs/slip_marks.h"
 
 namespace quinteva::outputs {
@@ -117,9 +118,13 @@ void ImpBaseQ(Impresion& hoja, Direccion direccion, const AjustePapel& ajuste, f
 }
 
 DisposicionBoleto DisposicionDePapel(Direccion direccion, const AjustePapel& ajuste,
-                                     std::string fecha) {
+                                     std::string fecha, int boletosPorHoja) {
     DisposicionBoleto d{GeometriaDePapel(direccion, ajuste), direccion, std::move(fecha), {}};
-    d.marco = [direccion, ajuste](Impresion& hoja) { ImpBaseQ(hoja, direccion, ajuste); };
+    d.marco = [direccion, ajuste](Impresion& hoja, float abajo) {
+        ImpBaseQ(hoja, direccion, ajuste, abajo);
+    };
+    d.boletosPorHoja = boletosPorHoja;
+    d.separacion = kAltoA4 / static_cast<float>(boletosPorHoja);
     return d;
 }
 

@@ -56,9 +56,10 @@ GeometriaBoleto GeometriaDePapel(Direccion direccion, const AjustePapel& ajuste)
 // borde de puntos por donde se recorta y la nota de recortar.
 void ImpBaseQ(Impresion& hoja, Direccion direccion, const AjustePapel& ajuste, float abajo = 0);
 
-// Cómo se imprimen los boletos en papel blanco: su geometría y, antes de cada uno, ImpBaseQ.
+// Cómo se imprimen los boletos en papel blanco: su geometría y, antes de cada uno, ImpBaseQ; con
+// dos por hoja (folios o A4), el segundo en la mitad de abajo con los mismos desplazamientos.
 DisposicionBoleto DisposicionDePapel(Direccion direccion, const AjustePapel& ajuste,
-                                     std::string fecha);
+                                     std::string fecha, int boletosPorHoja = 1);
 
 // "Imprimir en papel blanco": las mismas columnas que en los boletos, con el marco de cada uno
 // salvo en el dorso, y su aviso una vez por ventana.

@@ -19,12 +19,13 @@ int CasillasPleno(char caracter) {
 
 int CasillasSigno(char signo) { return signo == 'X' ? 1 : signo == '2' ? 2 : 0; }
 
-void Cabecera(Impresion& hoja, const DisposicionBoleto& d, std::string_view numero) {
-    const GeometriaBoleto& g = d.geometria;
+// La cabecera del boleto; g es la geometría ya bajada lo que baja el boleto en la hoja.
+void Cabecera(Impresion& hoja, const DisposicionBoleto& d, const GeometriaBoleto& g,
+              std::string_view numero, float abajo) {
     const std::string texto = d.fecha + " Nº " + std::string(numero);
     if (d.direccion == Direccion::Apaisada) {
         hoja.Tamano(kTamanoCabecera);
-        hoja.Texto(static_cast<float>(g.origenX + 600), 125.0F, texto);
+        hoja.Texto(static_cast<float>(g.origenX + 600), 125.0F + abajo, texto);
         hoja.Tamano(kTamanoProducto);
         hoja.Texto(static_cast<float>(g.origenX + 600), hoja.YActual() - 40.0F, kLineaProducto);
         return;
@@ -35,10 +36,10 @@ void Cabecera(Impresion& hoja, const DisposicionBoleto& d, std::string_view nume
 }
 
 // El Pleno del boleto: el de su primera columna, en los dos grupos de cuatro casillas.
-void Pleno(Impresion& hoja, const DisposicionBoleto& d, const engine::PlenoBase& pleno) {
-    const GeometriaBoleto& g = d.geometria;
+void Pleno(Impresion& hoja, Direccion direccion, const GeometriaBoleto& g,
+           const engine::PlenoBase& pleno) {
     hoja.Tamano(kTamanoMarca);
-    if (d.direccion == Direccion::Apaisada) {
+    if (direccion == Direccion::Apaisada) {
         const float y = 14.0F * g.pasoY + g.origenY;
         hoja.Texto(7.0F * g.pasoX + g.origenX + CasillasPleno(pleno[0]) * g.pasoX, y, kMarca);
         hoja.Texto(20.0F * g.pasoX + g.origenX + CasillasPleno(pleno[1]) * g.pasoX, y, kMarca);
@@ -51,9 +52,10 @@ void Pleno(Impresion& hoja, const DisposicionBoleto& d, const engine::PlenoBase&
 
 // La columna en el lugar k (1 a 8) del boleto; con k = 1, también la cabecera y el Pleno.
 void Columna(Impresion& hoja, const DisposicionBoleto& d, int k,
-             const engine::RegistroColumna& columna, std::string_view numero) {
-    const GeometriaBoleto& g = d.geometria;
-    if (k == 1 && d.marco) d.marco(hoja);
+             const engine::RegistroColumna& columna, std::string_view numero, float abajo = 0) {
+    if (k == 1 && d.marco) d.marco(hoja, abajo);
+    GeometriaBoleto g = d.geometria;
+    g.origenY = static_cast<std::int16_t>(g.origenY + abajo);
     hoja.Fuente("Arial", kTamanoMarca, true);
     const float grupo = static_cast<float>((k - 1) * 3);
     for (int i = 0; i < engine::kPartidos; ++i) {
@@ -67,8 +69,8 @@ void Columna(Impresion& hoja, const DisposicionBoleto& d, int k,
         }
     }
     if (k != 1) return;
-    Cabecera(hoja, d, numero);
-    Pleno(hoja, d, columna.pleno);
+    Cabecera(hoja, d, g, numero, abajo);
+    Pleno(hoja, d.direccion, g, columna.pleno);
 }
 
 }  // namespace
@@ -114,15 +116,18 @@ Impresion ImprimirTodos(std::span<const engine::RegistroColumna> activas, std::i
     // Catorce marcas por columna y, por boleto, la cabecera, el producto, el Pleno y el marco.
     hoja.Reservar(columnas * engine::kPartidos + boletos * 5,
                   disposicion.marco ? boletos * (24 * engine::kPartidos + 12) : 0);
+    int enHoja = 0;
+    std::string numero;
     for (std::int32_t n = std::max(desde, 1); n <= ultima; ++n) {
         ++k;
-        const std::int32_t boleto = (n - 1) / kColumnasPorBoleto + 1;
-        Columna(hoja, disposicion, k, activas[static_cast<std::size_t>(n - 1)],
-                base::Formato(boleto, "#,##0"));
-        if (k == kColumnasPorBoleto) {
-            hoja.NuevaPagina();
-            k = 0;
-        }
+        if (k == 1) numero = base::Formato((n - 1) / kColumnasPorBoleto + 1, "#,##0");
+        Columna(hoja, disposicion, k, activas[static_cast<std::size_t>(n - 1)], numero,
+                static_cast<float>(enHoja) * disposicion.separacion);
+        if (k < kColumnasPorBoleto) continue;
+        k = 0;
+        if (++enHoja < disposicion.boletosPorHoja) continue;
+        hoja.NuevaPagina();
+        enHoja = 0;
     }
     return hoja;
 }

@@ -20,12 +20,15 @@ inline constexpr int kColumnasPorBoleto = 8;
 inline constexpr std::string_view kLineaProducto = "Quinteva (quinteva.example)";
 
 // Cómo se imprimen los boletos: la geometría, la dirección, la fecha de la Jornada de la
-// cabecera y, en papel blanco, el marco que se dibuja antes de cada boleto (ImpBaseQ).
+// cabecera y, en papel blanco, el marco que se dibuja antes de cada boleto (ImpBaseQ, con lo que
+// baja el boleto en la hoja). Con dos boletos por hoja, el segundo baja "separacion" twips.
 struct DisposicionBoleto {
     GeometriaBoleto geometria;
     Direccion direccion = Direccion::Apaisada;
     std::string fecha;
-    std::function<void(Impresion&)> marco;
+    std::function<void(Impresion&, float abajo)> marco;
+    int boletosPorHoja = 1;
+    float separacion = 0;
 };
 
 // Los boletos que llenan tantas columnas, ocho en cada uno.

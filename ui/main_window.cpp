@@ -279,8 +279,9 @@ void VentanaPrincipal::CrearMenus() {
     herramientas->setObjectName(QStringLiteral("MenuHerramientas"));
     Accion(herramientas, QStringLiteral("&Refundir Combinaciones"),
            QStringLiteral("AccionRefundir"), false);
-    Accion(herramientas, QStringLiteral("Importar &archivo"), QStringLiteral("AccionImportar"),
-           false);
+    connect(
+        Accion(herramientas, QStringLiteral("Importar &archivo"), QStringLiteral("AccionImportar")),
+        &QAction::triggered, this, &VentanaPrincipal::ImportarArchivo);
     connect(Accion(herramientas, QStringLiteral("&Leer o modificar archivo JSON"),
                    QStringLiteral("AccionJson")),
             &QAction::triggered, this, &VentanaPrincipal::ArchivoJson);
@@ -328,7 +329,7 @@ void VentanaPrincipal::CrearBarra() {
           guardar_);
     barra_->addSeparator();
     boton(QStyle::SP_ArrowDown, QStringLiteral("Importar"), QStringLiteral("BarraImportar"),
-          nullptr);
+          findChild<QAction*>(QStringLiteral("AccionImportar")));
     boton(QStyle::SP_FileDialogDetailedView, QStringLiteral("Imprimir"),
           QStringLiteral("BarraImprimir"), visorQuinielas_);
     boton(QStyle::SP_FileDialogListView, QStringLiteral("Listado de lo jugado"),

@@ -124,6 +124,8 @@ class VentanaPrincipal : public QMainWindow {
     void SeleccionarImpresora();
     // "Visor de Quinielas": el informe de las columnas que se juegan, con su vista previa.
     void VisorDeQuinielas();
+    // "Importar &archivo": listas de columnas hechas fuera, impresas o en archivo oficial.
+    void ImportarArchivo();
     void EliminarManual();
     void AnadirManual();
     // "Quinteva [Listado de Apuestas]" de las Condicionadas o de las Reducidas.

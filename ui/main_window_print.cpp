@@ -1,7 +1,9 @@
-// Los mandatos de la ventana principal que imprimen las columnas que se juegan.
+// Los mandatos de la ventana principal que imprimen: las columnas que se juegan, su informe, las
+// listas importadas y la impresora.
 #include "builders/boletos.h"
 #include "outputs/played_set.h"
 #include "outputs/printed_reports.h"
+#include "ui/import_window.h"
 #include "ui/main_window.h"
 #include "ui/paper_print_window.h"
 #include "ui/printer_select_window.h"
@@ -53,6 +55,11 @@ void VentanaPrincipal::VisorDeQuinielas() {
     AbrirVentana(new VentanaVisor({QStringLiteral("Visor de Quinielas"), std::move(informe),
                                    fs::path(ruta).replace_extension(".pdf")},
                                   s_.dialogo, s_.imprimir, this));
+}
+
+void VentanaPrincipal::ImportarArchivo() {
+    AbrirVentana(new VentanaImportar(
+        {s_.carpetaTrabajo, s_.ajustes, s_.dialogo, azar_, s_.imprimir, S(fechaJornada_)}, this));
 }
 
 void VentanaPrincipal::SeleccionarImpresora() {

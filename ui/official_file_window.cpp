@@ -34,9 +34,8 @@ QPushButton* Boton(QWidget* madre, const QString& texto, const QString& nombre) 
 
 }  // namespace
 
-VentanaArchivoOficial::VentanaArchivoOficial(outputs::PeticionPrincipal peticion,
-                                             base::Dialogo& dialogo, base::Ajustes& ajustes,
-                                             QWidget* madre)
+VentanaArchivoOficial::VentanaArchivoOficial(Peticion peticion, base::Dialogo& dialogo,
+                                             base::Ajustes& ajustes, QWidget* madre)
     : QDialog(madre), peticion_(std::move(peticion)), dialogo_(dialogo), ajustes_(ajustes) {
     setObjectName(QStringLiteral("VentanaArchivoOficial"));
     setWindowTitle(QStringLiteral("Generar fichero oficial"));
@@ -75,11 +74,20 @@ VentanaArchivoOficial::VentanaArchivoOficial(outputs::PeticionPrincipal peticion
 }
 
 void VentanaArchivoOficial::Generar() {
-    peticion_.receptor = receptor_->text().toStdString();
-    peticion_.nombre = nombre_->text().toStdString();
     outputs::ResultadoGeneracion resultado;
     try {
-        resultado = outputs::GenerarDesdePrincipal(peticion_, dialogo_, ajustes_);
+        resultado = std::visit(
+            [this](auto& peticion) {
+                peticion.receptor = receptor_->text().toStdString();
+                peticion.nombre = nombre_->text().toStdString();
+                if constexpr (std::is_same_v<std::decay_t<decltype(peticion)>,
+                                             outputs::PeticionPrincipal>) {
+                    return outputs::GenerarDesdePrincipal(peticion, dialogo_, ajustes_);
+                } else {
+                    return outputs::GenerarDesdeImportacion(peticion, dialogo_, ajustes_);
+                }
+            },
+            peticion_);
     } catch (const std::exception& e) {
         dialogo_.Mensaje(std::string("Error: ") + e.what(), base::Icono::Error);
         return;

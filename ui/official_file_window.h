@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QDialog>
+#include <variant>
 
 #include "base/dialog.h"
 #include "base/settings.h"
@@ -10,20 +11,21 @@ class QLineEdit;
 
 namespace quinteva::ui {
 
-// "Generar fichero oficial" desde la ventana principal: el Receptor, el nombre del archivo y
-// "&Generar". La petición trae ya las columnas, el archivo del que salen y el año; el Receptor
-// empieza con el último usado.
+// "Generar fichero oficial" desde la ventana principal o desde la de importación: el Receptor, el
+// nombre del archivo y "&Generar". La petición trae ya las columnas y de dónde salen; el
+// Receptor empieza con el último usado.
 class VentanaArchivoOficial : public QDialog {
     Q_OBJECT
 
   public:
-    VentanaArchivoOficial(outputs::PeticionPrincipal peticion, base::Dialogo& dialogo,
-                          base::Ajustes& ajustes, QWidget* madre = nullptr);
+    using Peticion = std::variant<outputs::PeticionPrincipal, outputs::PeticionImportacion>;
+    VentanaArchivoOficial(Peticion peticion, base::Dialogo& dialogo, base::Ajustes& ajustes,
+                          QWidget* madre = nullptr);
 
   private:
     void Generar();
 
-    outputs::PeticionPrincipal peticion_;
+    Peticion peticion_;
     base::Dialogo& dialogo_;
     base::Ajustes& ajustes_;
     QLineEdit* receptor_;

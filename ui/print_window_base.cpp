@@ -38,10 +38,7 @@ void VentanaDeImpresion::Construir(const QString& titulo, QGroupBox* panelAjuste
     connect(boton(QStringLiteral("Imprimir &Todos"), "BotonImprimirTodos"), &QPushButton::clicked,
             this, &VentanaDeImpresion::ImprimirTodos);
     connect(boton(QStringLiteral("&Ajustar Impresora"), "BotonAjustarImpresora"),
-            &QPushButton::clicked, this, [this] {
-                LlenarAjuste();
-                panel_->setVisible(true);
-            });
+            &QPushButton::clicked, this, &VentanaDeImpresion::MostrarAjuste);
     connect(boton(QStringLiteral("S&eleccionar Impresora"), "BotonSeleccionarImpresora"),
             &QPushButton::clicked, this, [this] {
                 auto* ventana = new VentanaSeleccionImpresora(ajustes_, this);
@@ -70,6 +67,11 @@ void VentanaDeImpresion::Enviar(const std::function<std::optional<outputs::Impre
         if (const auto hoja = mandato()) imprimir_(*hoja);
     });
     unsetCursor();
+}
+
+void VentanaDeImpresion::MostrarAjuste() {
+    LlenarAjuste();
+    panel_->setVisible(true);
 }
 
 void VentanaDeImpresion::OcultarAjuste() { panel_->setVisible(false); }

@@ -31,6 +31,10 @@ struct ColumnasAImprimir {
 class VentanaDeImpresion : public QDialog {
     Q_OBJECT
 
+  public:
+    // "&Ajustar Impresora": el panel de ajuste con lo guardado (también desde la importación).
+    void MostrarAjuste();
+
   protected:
     VentanaDeImpresion(ColumnasAImprimir columnas, base::Ajustes& ajustes, base::Dialogo& dialogo,
                        Imprimir imprimir, QWidget* madre);
