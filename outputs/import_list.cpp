@@ -39,7 +39,7 @@ bool EsGol(char c) { return c == '0' || c == '1' || c == '2' || c == 'M'; }
 std::optional<engine::RegistroColumna> Columna(std::string_view linea, bool conPleno) {
     std::string cifras;
     for (char c : linea) {
-        if (kSeparadores.find(c) != std::string_view::npos || c == '\r') continue;
+        if (kSeparadores.find(c) != std::string_view::npos) continue;
         cifras.push_back(c == 'x' ? 'X' : c == 'm' ? 'M' : c);
     }
     const std::size_t largo = engine::kPartidos + (conPleno ? 2 : 0);
@@ -97,6 +97,7 @@ ListaImportada ImportarTexto(const std::filesystem::path& archivo, bool conPleno
     std::vector<engine::RegistroColumna> columnas;
     std::string linea;
     for (int numero = 1; std::getline(entrada, linea); ++numero) {
+        if (!linea.empty() && linea.back() == '\r') linea.pop_back();
         const std::string_view limpia = base::Recortar(linea);
         if (limpia.empty() || limpia.front() == '#') continue;
         const auto columna = Columna(limpia, conPleno);
