@@ -89,6 +89,12 @@ std::span<const Subcomando> Subcomandos() {
          "las páginas en PDF o las marcas de cada página (twips).",
          {{"direccion", "desde", "hasta", "papel", "pdf"}, {"marcas"}},
          &Imprimir},
+        {"importar",
+         "importar F.json|F.txt [--sin-pleno] [--json]",
+         "\"Importar archivo\": un archivo oficial o una lista de texto (una columna por línea, "
+         "con su Pleno salvo --sin-pleno) a \"Arimp.tmp\", con sus boletos.",
+         {{}, {"sin-pleno"}},
+         &Importar},
         {"actualizar",
          "actualizar --servidor URL",
          "\"Actualización por Internet\": los archivos de la temporada del servidor del editor, "

@@ -35,6 +35,7 @@ int DepurarLigaCmd(const Argumentos& argumentos, std::ostream& salida);
 int Quiniela(const Argumentos& argumentos, std::ostream& salida);
 int Estadisticas(const Argumentos& argumentos, std::ostream& salida);
 int Historico(const Argumentos& argumentos, std::ostream& salida);
+int Importar(const Argumentos& argumentos, std::ostream& salida);
 int Imprimir(const Argumentos& argumentos, std::ostream& salida);
 int Actualizar(const Argumentos& argumentos, std::ostream& salida);
 int QuinielaResultados(const Argumentos& argumentos, std::ostream& salida);

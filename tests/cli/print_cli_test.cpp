@@ -93,5 +93,28 @@ TEST_F(CliImprimir, LosLimitesMalDadosYLaOrdenMalEscrita) {
     EXPECT_EQ(falta.codigo, 1);
 }
 
+TEST(CliImportar, UnaListaDeTextoYSusLineasMalas) {
+    CarpetaTemporal trabajo;
+    const std::string carpeta = " --carpeta '" + trabajo.Ruta().string() + "'";
+    std::ofstream(trabajo / "lista.txt") << "1X21X21X21X21X 1-M\n22222222222222 0-0\n";
+    const Salida texto =
+        EjecutarCli("importar '" + (trabajo / "lista.txt").string() + "'" + carpeta);
+    ASSERT_EQ(texto.codigo, 0) << texto.errores;
+    EXPECT_EQ(
+        texto.salida,
+        "Columnas importadas: 2\nBoletos: 1\n1\t1X21X21X21X21X\t1-M\n2\t22222222222222\t0-0\n");
+    const Salida json =
+        EjecutarCli("importar '" + (trabajo / "lista.txt").string() + "' --json" + carpeta);
+    EXPECT_EQ(json.salida.rfind("{\"Columnas\": 2, \"Boletos\": 1, \"Lista\": [{\"Columna\": 1, "
+                                "\"Signos\": \"1X21X21X21X21X\", \"Pleno\": \"1-M\"}",
+                                0),
+              0U)
+        << json.salida;
+    const Salida sinPleno =
+        EjecutarCli("importar '" + (trabajo / "lista.txt").string() + "' --sin-pleno" + carpeta);
+    EXPECT_EQ(sinPleno.codigo, 1);
+    EXPECT_EQ(sinPleno.errores, "Error: La línea 1 no es una columna: 1X21X21X21X21X 1-M\n");
+}
+
 }  // namespace
 }  // namespace quinteva::pruebas
