@@ -9,13 +9,16 @@
 #include <QtTest>
 #include <fstream>
 
+#include "outputs/import_list.h"
 #include "outputs/print_paper.h"
 #include "outputs/print_range.h"
 #include "outputs/print_slips.h"
 #include "outputs/slip_marks.h"
 #include "tests/ui/window_fixture.h"
 #include "ui/bets_list_window.h"
+#include "ui/import_window.h"
 #include "ui/located_columns_window.h"
+#include "ui/official_file_window.h"
 #include "ui/paper_print_window.h"
 #include "ui/print_range_dialog.h"
 #include "ui/printer_select_window.h"
@@ -199,6 +202,69 @@ class PruebaVentanasImpresion : public QObject {
         pruebas::Pulsar(localizadas, "BotonImprimir");
         QCOMPARE(inst.impresas.size(), 2U);
         QCOMPARE(inst.impresas[1].Textos().back().texto, std::string("1         3         14"));
+    }
+
+    void ImportarUnaListaImprimirlaEnSusModosYCompletarla() {
+        pruebas::Instalacion inst;
+        auto v = inst.Ventana();
+        QVERIFY(Hijo<QAction>(*v, "BarraImportar")->isEnabled());
+        auto* ventana = pruebas::AbrirDesdeMenu<ui::VentanaImportar>(*v, "AccionImportar");
+        const fs::path lista = inst.documentos / "lista.txt";
+        {
+            std::ofstream f(lista);
+            for (int i = 0; i < 9; ++i) f << "1X21X21X21X21X 1-M\n";
+        }
+        const fs::path mala = inst.documentos / "mala.txt";
+        std::ofstream(mala) << "1X2 1-M\n";
+        inst.dialogo.Responder(std::optional<fs::path>(lista))
+            .Responder(std::optional<fs::path>(mala));
+        pruebas::Pulsar(*ventana, "BotonImportarConPleno");
+        QCOMPARE(pruebas::TextoDe(*ventana, "ColumnasImportadas"),
+                 QStringLiteral("Columnas importadas: 9"));
+        QCOMPARE(pruebas::TextoDe(*ventana, "PlenoBoleto"), QStringLiteral("1-M"));
+        pruebas::Pulsar(*ventana, "BotonImportarConPleno");
+        QCOMPARE(pruebas::Dichos(inst.dialogo),
+                 std::vector<std::string>{
+                     "Error: La línea 1 no es una columna con su Pleno al 15: 1X2 1-M"});
+        QCOMPARE(outputs::LeerImportadas(inst.trabajo.Ruta()).size(), 9U);
+
+        // Boletos oficiales: antes, el ajuste.
+        pruebas::Pulsar(*ventana, "BotonImprimirUno");
+        QCOMPARE(pruebas::Dichos(inst.dialogo).back(), std::string(outputs::kMsgAjusteAntes));
+        inst.ajustes.Guardar("Quinteva-07", "Avisos", "AjusteBoletos", "SI");
+        pruebas::Pulsar(*ventana, "BotonImprimirUno");
+        QCOMPARE(inst.impresas.size(), 1U);
+        QCOMPARE(Marcas(inst.impresas[0]), 8U * 14 + 2);
+
+        // Folios con dos boletos por hoja: los dos en la misma.
+        Hijo<QRadioButton>(*ventana, QStringLiteral("ModoPapel2"))->setChecked(true);
+        QCOMPARE(inst.ajustes.Leer("Quinteva-07", "Importar", "Imprimir", ""),
+                 std::string("Papel2"));
+        inst.ajustes.Guardar("Quinteva-07", "Avisos", "AjustePapel", "SI");
+        ImprimirTodos(*ventana, QString(), QString());
+        QCOMPARE(inst.impresas.size(), 2U);
+        QCOMPARE(inst.impresas[1].Paginas(), 1);
+        QCOMPARE(Marcas(inst.impresas[1]), 9U * 14 + 4);
+        Hijo<QRadioButton>(*ventana, QStringLiteral("ModoPapel0"))->setChecked(true);
+        pruebas::Pulsar(*ventana, "BotonImprimirUno");
+        QCOMPARE(pruebas::Dichos(inst.dialogo).back(), std::string(outputs::kMsgDorsoDistinto));
+
+        // "Ajustes de Impresión" abre el ajuste del modo; "Completar a 100".
+        pruebas::Pulsar(*ventana, "BotonAjustesImpresion");
+        auto* papel = ventana->findChild<ui::VentanaImprimirPapel*>();
+        QVERIFY(papel != nullptr);
+        QTRY_VERIFY(Hijo<QGroupBox>(*papel, QStringLiteral("PanelAjuste"))->isVisible());
+        papel->close();
+        inst.dialogo.Responder(base::Respuesta::Aceptar);
+        pruebas::Pulsar(*ventana, "BotonCompletar");
+        QCOMPARE(pruebas::Dichos(inst.dialogo).back(), std::string(outputs::kMsgCompletado));
+        QCOMPARE(pruebas::TextoDe(*ventana, "ColumnasImportadas"),
+                 QStringLiteral("Columnas importadas: 100"));
+        QCOMPARE(outputs::LeerImportadas(inst.trabajo.Ruta()).size(), 100U);
+        pruebas::Pulsar(*ventana, "BotonGenerarOficial");
+        QVERIFY(ventana->findChild<ui::VentanaArchivoOficial*>() != nullptr);
+        QVERIFY(inst.dialogo.GuionAgotado());
+        ventana->close();
     }
 
     void LaImpresoraElegidaSeGuardaYUnaQueYaNoEstaNoSeUsa() {
