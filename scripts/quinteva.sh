@@ -35,7 +35,8 @@ compilar() {
 fuzz() {
   compilar fuzz
   local corpus
-  for objetivo in fuzz_json_bag fuzz_cabecera fuzz_ad243 fuzz_temporada fuzz_respuesta; do
+  for objetivo in fuzz_json_bag fuzz_cabecera fuzz_ad243 fuzz_temporada fuzz_respuesta \
+    fuzz_importar; do
     corpus="build/fuzz/corpus/$objetivo"
     mkdir -p "$corpus"
     [ -d "fuzz/corpus/$objetivo" ] && cp -n fuzz/corpus/$objetivo/* "$corpus"/ 2>/dev/null || true
