@@ -8,6 +8,7 @@
 #include <QScrollBar>
 #include <QTabWidget>
 #include <QtTest>
+#include <fstream>
 
 #include "engine/analysis.h"
 #include "seasons/update.h"
@@ -23,6 +24,7 @@
 #include "ui/changes_window.h"
 #include "ui/failure_report_window.h"
 #include "ui/history_window.h"
+#include "ui/import_window.h"
 #include "ui/json_file_window.h"
 #include "ui/league_fixture_window.h"
 #include "ui/league_results_window.h"
@@ -290,6 +292,13 @@ class PruebaCapturas : public QObject {
         auto* impresora =
             pruebas::AbrirDesdeMenu<ui::VentanaSeleccionImpresora>(*v, "AccionImpresora");
         Capturar(*impresora, QStringLiteral("ventana_seleccion_impresora"));
+        impresora->close();
+        const auto lista = inst.documentos / "lista.txt";
+        std::ofstream(lista) << "1X21X21X21X21X 1-M\n22222222222222 0-0\nXXXXXXXXXXXXXX 2-1\n";
+        auto* importar = pruebas::AbrirDesdeMenu<ui::VentanaImportar>(*v, "AccionImportar");
+        inst.dialogo.Responder(std::optional<std::filesystem::path>(lista));
+        pruebas::Pulsar(*importar, "BotonImportarConPleno");
+        Capturar(*importar, QStringLiteral("ventana_importar"));
     }
 
     // La actualización por Internet contra quinteva-servidor: al abrir y al acabar; la del
