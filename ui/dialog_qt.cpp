@@ -119,8 +119,10 @@ std::optional<std::filesystem::path> DialogoQt::ArchivoParaAbrir(
 
 std::optional<std::filesystem::path> DialogoQt::ArchivoParaGuardar(
     std::string_view titulo, std::string_view filtro, const std::filesystem::path& inicial) {
+    // Quien guarda pregunta él mismo si el archivo ya existe, con el texto del sistema.
     return Elegida(
-        QFileDialog::getSaveFileName(madre_, Q(titulo), Ruta(Inicial(inicial)), FiltroQt(filtro)),
+        QFileDialog::getSaveFileName(madre_, Q(titulo), Ruta(Inicial(inicial)), FiltroQt(filtro),
+                                     nullptr, QFileDialog::DontConfirmOverwrite),
         false);
 }
 
