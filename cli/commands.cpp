@@ -89,6 +89,11 @@ std::span<const Subcomando> Subcomandos() {
          "las páginas en PDF o las marcas de cada página (twips).",
          {{"direccion", "desde", "hasta", "papel", "pdf"}, {"marcas"}},
          &Imprimir},
+        {"ponderar", "ponderar [--local-MARCA ...] [--visitante-MARCA ...] [--json]",
+         "\"Ponderar equipos\" de un partido: MARCA es bajas-importantes, contrario-se-le-da-mal, "
+         "campo-le-perjudica, arbitro-no-le-favorece, otras-desfavorables o favorables; da "
+         "PesoLocal y PesoVisitante.",
+         OpcionesPonderar(), &Ponderar},
         {"importar",
          "importar F.json|F.txt [--sin-pleno] [--json]",
          "\"Importar archivo\": un archivo oficial o una lista de texto (una columna por línea, "

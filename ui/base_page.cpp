@@ -110,6 +110,10 @@ PaginaBase::PaginaBase(QWidget* madre) : QWidget(madre) {
         b->setEnabled(false);
         botones->addWidget(b);
     }
+    auto* ponderar = new QPushButton(QStringLiteral("Ponderar equipos"), rapidas);
+    ponderar->setObjectName(QStringLiteral("BotonPonderar"));
+    connect(ponderar, &QPushButton::clicked, this, &PaginaBase::ponderar);
+    botones->addWidget(ponderar);
     izquierda->addWidget(rapidas);
     izquierda->addStretch();
     caja->addLayout(izquierda, 3);
@@ -119,6 +123,15 @@ PaginaBase::PaginaBase(QWidget* madre) : QWidget(madre) {
 
     connect(jornadas_, &QComboBox::activated, this,
             [this](int indice) { emit jornadaElegida(jornadas_->itemData(indice).toInt()); });
+}
+
+QStringList PaginaBase::Partidos() const {
+    QStringList partidos;
+    for (int fila = 0; fila < engine::kPartidos; ++fila) {
+        const QTableWidgetItem* celda = rejilla_->item(fila, 1);
+        partidos << (celda != nullptr ? celda->text() : QString());
+    }
+    return partidos;
 }
 
 void PaginaBase::PonerJornadas(const std::vector<int>& jornadas) {

@@ -28,6 +28,8 @@ class PaginaBase : public QWidget {
     // Deja la lista en la Jornada dada (0: ninguna) sin avisar.
     void SeleccionarJornada(int jornada);
     void PonerFecha(const QString& fecha);
+    // Las 14 etiquetas "Local - Visitante" de la rejilla.
+    QStringList Partidos() const;
     void Mostrar(const engine::QuinielaBase& base);
     QTableWidget* Rejilla() const { return rejilla_; }
     PanelInfo* Info() const { return info_; }
@@ -35,6 +37,8 @@ class PaginaBase : public QWidget {
 
   signals:
     void jornadaElegida(int jornada);
+    // "Ponderar equipos".
+    void ponderar();
     // partido 1 a 14, signo 0, 1, 2.
     void signoPulsado(int partido, int signo);
     // lado 0 local, 1 visitante; texto "" o una tecla.

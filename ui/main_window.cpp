@@ -38,6 +38,7 @@
 #include "ui/qt_text.h"
 #include "ui/report_windows.h"
 #include "ui/status_panel.h"
+#include "ui/team_weights_window.h"
 #include "ui/work_pages.h"
 
 namespace quinteva::ui {
@@ -146,6 +147,8 @@ void VentanaPrincipal::CrearPaginas() {
     setCentralWidget(desplazable);
 
     connect(base_, &PaginaBase::jornadaElegida, this, &VentanaPrincipal::ElegirJornada);
+    connect(base_, &PaginaBase::ponderar, this,
+            [this] { AbrirVentana(new VentanaPonderar(base_->Partidos(), pesos_, this)); });
     connect(base_, &PaginaBase::signoPulsado, this, &VentanaPrincipal::SignoPulsado);
     connect(base_, &PaginaBase::golTecleado, this, &VentanaPrincipal::GolTecleado);
     connect(base_, &PaginaBase::golVisitado, this, &VentanaPrincipal::GolVisitado);

@@ -11,6 +11,7 @@
 #include "base/settings.h"
 #include "builders/adjustment.h"
 #include "builders/boletos.h"
+#include "builders/team_weights.h"
 #include "engine/combination.h"
 #include "engine/generation.h"
 #include "seasons/startup.h"
@@ -252,6 +253,8 @@ class VentanaPrincipal : public QMainWindow {
     bool ajustando_ = false;
     builders::Ajuste ajuste_;
     base::AzarEstandar azar_{base::AzarEstandar::SemillaDelReloj()};
+    // PesoLocal y PesoVisitante de "Ponderar equipos": duran lo que el programa.
+    builders::PesosEquipos pesos_;
     DialogoEntreHilos dialogoDelHilo_{s_.dialogo, this};
     QString fechaJornada_;
     bool verContador_ = true;

@@ -1,4 +1,5 @@
 #include <QAction>
+#include <QCheckBox>
 #include <QDir>
 #include <QImage>
 #include <QLineEdit>
@@ -47,6 +48,7 @@
 #include "ui/slip_print_window.h"
 #include "ui/spanish_texts.h"
 #include "ui/statistics_window.h"
+#include "ui/team_weights_window.h"
 #include "ui/teams_window.h"
 #include "ui/text_type_window.h"
 #include "ui/winning_columns_window.h"
@@ -299,6 +301,17 @@ class PruebaCapturas : public QObject {
         inst.dialogo.Responder(std::optional<std::filesystem::path>(lista));
         pruebas::Pulsar(*importar, "BotonImportarConPleno");
         Capturar(*importar, QStringLiteral("ventana_importar"));
+    }
+
+    void VentanaPonderar() {
+        pruebas::Instalacion inst;
+        auto v = inst.Ventana();
+        pruebas::ElegirJornada(*v, 26);
+        pruebas::Pulsar(*v, "BotonPonderar");
+        auto* ventana = Hijo<ui::VentanaPonderar>(*v, "VentanaPonderar");
+        Hijo<QCheckBox>(*ventana, "Marca1")->click();
+        Hijo<QCheckBox>(*ventana, "Marca11")->click();
+        Capturar(*ventana, QStringLiteral("ventana_ponderar_equipos"));
     }
 
     // La actualización por Internet contra quinteva-servidor: al abrir y al acabar; la del
