@@ -110,6 +110,9 @@ PaginaBase::PaginaBase(QWidget* madre) : QWidget(madre) {
         b->setEnabled(false);
         botones->addWidget(b);
     }
+    auto* muyReducida = rapidas->findChild<QPushButton*>(QStringLiteral("BotonMuyReducida"));
+    muyReducida->setEnabled(true);
+    connect(muyReducida, &QPushButton::clicked, this, &PaginaBase::muyReducida);
     auto* ponderar = new QPushButton(QStringLiteral("Ponderar equipos"), rapidas);
     ponderar->setObjectName(QStringLiteral("BotonPonderar"));
     connect(ponderar, &QPushButton::clicked, this, &PaginaBase::ponderar);

@@ -37,8 +37,9 @@ class PaginaBase : public QWidget {
 
   signals:
     void jornadaElegida(int jornada);
-    // "Ponderar equipos".
+    // "Ponderar equipos" y "Quiniela muy reducida".
     void ponderar();
+    void muyReducida();
     // partido 1 a 14, signo 0, 1, 2.
     void signoPulsado(int partido, int signo);
     // lado 0 local, 1 visitante; texto "" o una tecla.

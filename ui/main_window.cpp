@@ -147,6 +147,7 @@ void VentanaPrincipal::CrearPaginas() {
     setCentralWidget(desplazable);
 
     connect(base_, &PaginaBase::jornadaElegida, this, &VentanaPrincipal::ElegirJornada);
+    connect(base_, &PaginaBase::muyReducida, this, &VentanaPrincipal::AbrirMuyReducida);
     connect(base_, &PaginaBase::ponderar, this,
             [this] { AbrirVentana(new VentanaPonderar(base_->Partidos(), pesos_, this)); });
     connect(base_, &PaginaBase::signoPulsado, this, &VentanaPrincipal::SignoPulsado);
@@ -391,6 +392,7 @@ void VentanaPrincipal::closeEvent(QCloseEvent* evento) {
         evento->ignore();
         return;
     }
+    // También la de "Quiniela muy reducida", que no es modal.
     for (QDialog* d : findChildren<QDialog*>()) d->close();
     std::error_code error;
     fs::remove(s_.carpetaTrabajo / engine::kCmbTmp, error);
@@ -749,6 +751,7 @@ void VentanaPrincipal::FinGeneracion() {
     Ocupado(false);
     generar_->info->setEnabled(resultado_.infoHabilitado);
     if (resultado_.avisoBoletos) AvisoBoletos();
+    SeguirAsistente(!resultado_.detenida && resultado_.reducirHabilitado);
 }
 
 void VentanaPrincipal::Reducir() {
@@ -790,6 +793,7 @@ void VentanaPrincipal::FinReduccion() {
     Ocupado(false);
     reducir_->info->setEnabled(comb_.activasReducidas > 0);
     AvisoBoletos();
+    SeguirAsistente(comb_.activasReducidas > 0);
 }
 
 void VentanaPrincipal::Detener() { trabajo_.Detener(); }
@@ -854,6 +858,7 @@ int VentanaPrincipal::PaginaActual() const { return paginas_->currentIndex(); }
 
 void VentanaPrincipal::Refrescar() {
     if (trabajo_.EnCurso()) return;
+    if (muyReducida_) muyReducida_->Fijar(comb_.base);
     if (!habilitada_[static_cast<std::size_t>(paginas_->currentIndex())])
         paginas_->setCurrentIndex(kQuinBase);
     for (std::size_t i = 0; i < botonesPagina_.size(); ++i) {

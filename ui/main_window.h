@@ -1,9 +1,11 @@
 #pragma once
 
 #include <QMainWindow>
+#include <QPointer>
 #include <QTimer>
 #include <array>
 #include <filesystem>
+#include <functional>
 #include <optional>
 
 #include "base/chance.h"
@@ -21,6 +23,7 @@
 #include "ui/print_window_base.h"
 #include "ui/printing.h"
 #include "ui/reduction_seam.h"
+#include "ui/very_reduced_window.h"
 
 class QAction;
 class QDialog;
@@ -125,6 +128,10 @@ class VentanaPrincipal : public QMainWindow {
     void SeleccionarImpresora();
     // "Visor de Quinielas": el informe de las columnas que se juegan, con su vista previa.
     void VisorDeQuinielas();
+    // "Quiniela muy reducida": la ventana junto a la base y su "Generar" de un paso (generar,
+    // reducir al nivel elegido, guardar y pasar a Boletos con las reducidas).
+    void AbrirMuyReducida();
+    void MuyReducida(int nivel);
     // "Importar &archivo": listas de columnas hechas fuera, impresas o en archivo oficial.
     void ImportarArchivo();
     void EliminarManual();
@@ -255,6 +262,11 @@ class VentanaPrincipal : public QMainWindow {
     base::AzarEstandar azar_{base::AzarEstandar::SemillaDelReloj()};
     // PesoLocal y PesoVisitante de "Ponderar equipos": duran lo que el programa.
     builders::PesosEquipos pesos_;
+    QPointer<VentanaMuyReducida> muyReducida_;
+    // El paso siguiente de un asistente cuando acaba el trabajo en curso (generar, reducir); con
+    // false (detenido o sin columnas) el asistente se abandona.
+    std::function<void()> alAcabar_;
+    void SeguirAsistente(bool seguir);
     DialogoEntreHilos dialogoDelHilo_{s_.dialogo, this};
     QString fechaJornada_;
     bool verContador_ = true;

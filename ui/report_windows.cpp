@@ -38,22 +38,9 @@ VentanaRechazadas::VentanaRechazadas(const std::vector<engine::FilaInforme>& fil
     BotonAceptar(this, caja);
 }
 
-VentanaTablaReducciones::VentanaTablaReducciones(const std::vector<FilaTablaReducciones>& filas,
-                                                 QWidget* madre)
-    : QDialog(madre) {
-    setObjectName(QStringLiteral("VentanaTablaReducciones"));
-    setWindowTitle(QStringLiteral("Tabla de reducciones"));
-    auto* caja = new QVBoxLayout(this);
-    auto* titulo = new QLabel(
-        QString::fromUtf8(builders::kTituloTablaReducciones.data(),
-                          static_cast<qsizetype>(builders::kTituloTablaReducciones.size())),
-        this);
-    titulo->setWordWrap(true);
-    caja->addWidget(titulo);
-    auto* cabecera = new QLabel(QStringLiteral("Nº de apuestas reducidas"), this);
-    cabecera->setAlignment(Qt::AlignRight);
-    caja->addWidget(cabecera);
-    auto* r = RejillaInforme(this, QStringLiteral("RejillaTablaReducciones"),
+QTableWidget* RejillaTablaReducciones(QWidget* madre,
+                                      const std::vector<FilaTablaReducciones>& filas) {
+    auto* r = RejillaInforme(madre, QStringLiteral("RejillaTablaReducciones"),
                              static_cast<int>(filas.size()),
                              {QStringLiteral("Combinaciones"), QStringLiteral("Al 13"),
                               QStringLiteral("Al 12"), QStringLiteral("Al 11")});
@@ -73,7 +60,25 @@ VentanaTablaReducciones::VentanaTablaReducciones(const std::vector<FilaTablaRedu
     for (int n = 1; n <= 3; ++n) r->setColumnWidth(n, cifra);
     r->setMinimumSize(r->columnWidth(0) + 3 * cifra + 40,
                       r->verticalHeader()->defaultSectionSize() * 20);
-    caja->addWidget(r);
+    return r;
+}
+
+VentanaTablaReducciones::VentanaTablaReducciones(const std::vector<FilaTablaReducciones>& filas,
+                                                 QWidget* madre)
+    : QDialog(madre) {
+    setObjectName(QStringLiteral("VentanaTablaReducciones"));
+    setWindowTitle(QStringLiteral("Tabla de reducciones"));
+    auto* caja = new QVBoxLayout(this);
+    auto* titulo = new QLabel(
+        QString::fromUtf8(builders::kTituloTablaReducciones.data(),
+                          static_cast<qsizetype>(builders::kTituloTablaReducciones.size())),
+        this);
+    titulo->setWordWrap(true);
+    caja->addWidget(titulo);
+    auto* cabecera = new QLabel(QStringLiteral("Nº de apuestas reducidas"), this);
+    cabecera->setAlignment(Qt::AlignRight);
+    caja->addWidget(cabecera);
+    caja->addWidget(RejillaTablaReducciones(this, filas));
     BotonAceptar(this, caja);
 }
 

@@ -6,6 +6,8 @@
 #include "engine/analysis.h"
 #include "ui/reduction_seam.h"
 
+class QTableWidget;
+
 namespace quinteva::ui {
 
 // "Rechazadas": "Informe sobre Columnas rechazadas por los filtros", rejilla "Filtro" y "Número";
@@ -18,6 +20,11 @@ class VentanaRechazadas : public QDialog {
 };
 
 // "Tabla de reducciones": los sistemas que se usan cuando no hay condiciones.
+// La rejilla de la "Tabla de reducciones": "Combinaciones" y las tres cifras de cada fila, en
+// negrita las reducciones óptimas.
+QTableWidget* RejillaTablaReducciones(QWidget* madre,
+                                      const std::vector<FilaTablaReducciones>& filas);
+
 class VentanaTablaReducciones : public QDialog {
     Q_OBJECT
 
