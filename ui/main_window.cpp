@@ -89,6 +89,7 @@ VentanaPrincipal::VentanaPrincipal(Servicios servicios, QWidget* madre)
     temporizadorVersion_.setInterval(3000);
     connect(&temporizadorVersion_, &QTimer::timeout, this, &VentanaPrincipal::ComprobarVersion);
     connect(&trabajo_, &TrabajoEnSegundoPlano::fallo, this, [this](const QString& error) {
+        alAcabar_ = {};
         refresco_.stop();
         ajustando_ = false;
         Ocupado(false);

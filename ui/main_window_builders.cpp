@@ -47,8 +47,11 @@ void VentanaPrincipal::MuyReducida(int nivel) {
             if (muyReducida_) muyReducida_->close();
         };
         Reducir();
+        if (!trabajo_.EnCurso()) alAcabar_ = {};
     };
     Generar();
+    // Si la generación no llegó a empezar, el asistente no sigue.
+    if (!trabajo_.EnCurso()) alAcabar_ = {};
 }
 
 }  // namespace quinteva::ui
