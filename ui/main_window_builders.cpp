@@ -1,5 +1,7 @@
 // Los asistentes de un paso de la ventana principal: ordenan sus propios mandatos (generar,
 // reducir, guardar) como los pulsaría el usuario.
+#include <QRadioButton>
+
 #include "builders/boletos.h"
 #include "builders/very_reduced.h"
 #include "ui/main_window.h"
