@@ -51,6 +51,7 @@
 #include "ui/team_weights_window.h"
 #include "ui/teams_window.h"
 #include "ui/text_type_window.h"
+#include "ui/very_reduced_window.h"
 #include "ui/winning_columns_window.h"
 
 using namespace quinteva;
@@ -301,6 +302,18 @@ class PruebaCapturas : public QObject {
         inst.dialogo.Responder(std::optional<std::filesystem::path>(lista));
         pruebas::Pulsar(*importar, "BotonImportarConPleno");
         Capturar(*importar, QStringLiteral("ventana_importar"));
+    }
+
+    void VentanaMuyReducida() {
+        pruebas::Instalacion inst;
+        auto v = inst.Ventana();
+        pruebas::ElegirJornada(*v, 25);
+        pruebas::BaseDeEjemplo(*v);
+        pruebas::Pulsar(*v, "BotonMuyReducida");
+        auto* ventana = v->findChild<ui::VentanaMuyReducida*>();
+        QVERIFY(ventana != nullptr);
+        Capturar(*ventana, QStringLiteral("ventana_muy_reducida"));
+        Capturar(*v, QStringLiteral("ventana_principal_con_muy_reducida"));
     }
 
     void VentanaPonderar() {
