@@ -3,6 +3,7 @@
 #include <QBoxLayout>
 #include <QCloseEvent>
 #include <QGroupBox>
+#include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
 #include <QRadioButton>
@@ -46,6 +47,7 @@ VentanaMuyReducida::VentanaMuyReducida(const std::vector<FilaTablaReducciones>& 
     caja->addWidget(cabecera);
     tabla_ = RejillaTablaReducciones(this, filas);
     tabla_->setObjectName(QStringLiteral("RejillaMuyReducida"));
+    tabla_->setMinimumHeight(tabla_->verticalHeader()->defaultSectionSize() * 12);
     caja->addWidget(tabla_, 1);
     auto* grupo = new QGroupBox(this);
     auto* opciones = new QHBoxLayout(grupo);
@@ -73,6 +75,7 @@ VentanaMuyReducida::VentanaMuyReducida(const std::vector<FilaTablaReducciones>& 
             &QPushButton::clicked, this, &QDialog::close);
     caja->addLayout(botones);
     // Junto a la Quiniela Base mientras esté abierta.
+    resize(sizeHint().width(), tabla_->verticalHeader()->defaultSectionSize() * 26);
     junto_.setInterval(250);
     connect(&junto_, &QTimer::timeout, this, &VentanaMuyReducida::Colocar);
     junto_.start();
