@@ -10,6 +10,7 @@
 #include "base/working_folder.h"
 #include "cli/commands.h"
 #include "cli/json_output.h"
+#include "cli/new_combination.h"
 #include "cli/private_folder.h"
 #include "engine/analysis.h"
 #include "engine/combination_files.h"
@@ -81,13 +82,11 @@ base::AjustesIni AjustesDe(const std::filesystem::path& carpeta) {
 
 }  // namespace
 
-int Nueva(const Argumentos& a, std::ostream& salida) {
-    constexpr std::string_view kUso =
-        "nueva RUTA.uxd --base \"1X2 1 X 12 ...\" --pleno H-A [--jornada N] [--carpeta DIR]";
-    const auto ruta = RutaUxd(a, kUso);
+Combinacion CombinacionNueva(const Argumentos& a, std::string_view uso) {
+    const auto ruta = RutaUxd(a, uso);
     const auto textoBase = a.Valor("base");
     const auto textoPleno = a.Valor("pleno");
-    if (!textoBase || !textoPleno) throw ErrorDeUso{"Uso: quinteva-cli " + std::string(kUso)};
+    if (!textoBase || !textoPleno) throw ErrorDeUso{"Uso: quinteva-cli " + std::string(uso)};
     if (ruta.extension() != ".uxd") throw ErrorDeUso{"La Combinación ha de ser un archivo .uxd"};
     if (base::AWindows1252(ruta.stem().string()).size() > 15) {
         throw ErrorDeUso{std::string(kMsgNombreLargo)};
@@ -112,8 +111,6 @@ int Nueva(const Argumentos& a, std::ostream& salida) {
         }
         if (jornada < 0 || jornada > 255) throw ErrorDeUso{"La Jornada es un número de 0 a 255"};
     }
-
-    const CarpetaDeAlmacenes almacenes(a);
     Combinacion c;
     c.base = base;
     c.pleno = base.Pleno();
@@ -125,14 +122,22 @@ int Nueva(const Argumentos& a, std::ostream& salida) {
     c.panel.alDirecto = base.Columnas();
     c.panel.dobles = base.Dobles();
     c.panel.triples = base.Triples();
+    return c;
+}
+
+int Nueva(const Argumentos& a, std::ostream& salida) {
+    Combinacion c = CombinacionNueva(
+        a, "nueva RUTA.uxd --base \"1X2 1 X 12 ...\" --pleno H-A [--jornada N] [--carpeta DIR]");
+    const CarpetaDeAlmacenes almacenes(a);
     const auto ajustes = AjustesDe(a.CarpetaTrabajo());
     Guardar(c, almacenes.Ruta(), ajustes);
     if (a.Json()) {
         salida << "{\"Nombre\": " << TextoJson(c.panel.nombre)
-               << ", \"ApuestasPosibles\": " << static_cast<std::int64_t>(base.Columnas()) << "}\n";
+               << ", \"ApuestasPosibles\": " << static_cast<std::int64_t>(c.base.Columnas())
+               << "}\n";
     } else {
-        salida << "Creada " << ruta.string() << " (" << static_cast<std::int64_t>(base.Columnas())
-               << " apuestas posibles)\n";
+        salida << "Creada " << c.ruta.string() << " ("
+               << static_cast<std::int64_t>(c.base.Columnas()) << " apuestas posibles)\n";
     }
     return 0;
 }

@@ -89,6 +89,13 @@ std::span<const Subcomando> Subcomandos() {
          "las páginas en PDF o las marcas de cada página (twips).",
          {{"direccion", "desde", "hasta", "papel", "pdf"}, {"marcas"}},
          &Imprimir},
+        {"muy-reducida",
+         "muy-reducida RUTA.uxd --base \"1X2 1 X 12 ...\" --pleno H-A --nivel 13|12|11 "
+         "[--jornada N]",
+         "\"Quiniela muy reducida\": una Combinación nueva cuya base es una fila de la tabla de "
+         "reducciones, generada, reducida al nivel, guardada y con las reducidas para jugar.",
+         {{"base", "pleno", "nivel", "jornada"}, {}},
+         &MuyReducidaCmd},
         {"ponderar", "ponderar [--local-MARCA ...] [--visitante-MARCA ...] [--json]",
          "\"Ponderar equipos\" de un partido: MARCA es bajas-importantes, contrario-se-le-da-mal, "
          "campo-le-perjudica, arbitro-no-le-favorece, otras-desfavorables o favorables; da "

@@ -35,6 +35,7 @@ int DepurarLigaCmd(const Argumentos& argumentos, std::ostream& salida);
 int Quiniela(const Argumentos& argumentos, std::ostream& salida);
 int Estadisticas(const Argumentos& argumentos, std::ostream& salida);
 int Historico(const Argumentos& argumentos, std::ostream& salida);
+int MuyReducidaCmd(const Argumentos& argumentos, std::ostream& salida);
 int Ponderar(const Argumentos& argumentos, std::ostream& salida);
 OpcionesAdmitidas OpcionesPonderar();
 int Importar(const Argumentos& argumentos, std::ostream& salida);
