@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "base/progress.h"
+#include "base/record_files.h"
 #include "builders/reduce.h"
 #include "builders/reduction_display.h"
 #include "engine/conditions.h"
@@ -63,7 +64,7 @@ TEST(MuyReducida, CienMilYCuarentaMilNoCuentanComoPorEncima) {
 TEST(MuyReducida, LasSetentaYTresFilasDePuntaAPunta) {
     for (const auto& fila : TablaReducciones()) {
         pruebas::Desarrollo d(fila.triples, fila.dobles);
-        const auto generadas = d.Leer("Cmb.tmp");
+        const auto generadas = base::LeerTodos<engine::RegistroColumna>(d.carpeta / "Cmb.tmp");
         for (int nivel = 0; nivel < 3; ++nivel) {
             std::string cifra;
             for (char ch : fila.cifras[static_cast<std::size_t>(nivel)].texto) {
@@ -76,7 +77,8 @@ TEST(MuyReducida, LasSetentaYTresFilasDePuntaAPunta) {
                     d.ajustes);
             EXPECT_EQ(d.combinacion.totalReducidas, std::stoi(cifra))
                 << fila.etiqueta << " al " << 13 - nivel;
-            EXPECT_TRUE(pruebas::Cubre(d.Leer("Red.tmp"), generadas, nivel + 1))
+            const auto reducidas = base::LeerTodos<engine::RegistroColumna>(d.carpeta / "Red.tmp");
+            EXPECT_TRUE(pruebas::Cubre(reducidas, generadas, nivel + 1))
                 << fila.etiqueta << " al " << 13 - nivel;
         }
     }
