@@ -16,7 +16,8 @@ void VentanaPrincipal::SeguirAsistente(bool seguir) {
 }
 
 void VentanaPrincipal::AbrirMuyReducida() {
-    if (s_.reductor == nullptr) return;
+    // Como los otros asistentes de la página: antes, la Combinación con su archivo.
+    if (s_.reductor == nullptr || trabajo_.EnCurso() || !ExigirNombre()) return;
     if (!muyReducida_) {
         muyReducida_ = new VentanaMuyReducida(s_.reductor->TablaReducciones(), this);
         muyReducida_->setAttribute(Qt::WA_DeleteOnClose);

@@ -309,6 +309,7 @@ class PruebaCapturas : public QObject {
         auto v = inst.Ventana();
         pruebas::ElegirJornada(*v, 25);
         pruebas::BaseDeEjemplo(*v);
+        inst.dialogo.Responder(std::optional<std::filesystem::path>(inst.documentos / "M.uxd"));
         pruebas::Pulsar(*v, "BotonMuyReducida");
         auto* ventana = v->findChild<ui::VentanaMuyReducida*>();
         QVERIFY(ventana != nullptr);

@@ -27,21 +27,29 @@ class PruebaMuyReducida : public QObject {
         pruebas::Instalacion inst;
         auto v = inst.Ventana();
         pruebas::ElegirJornada(*v, 25);
-        auto* ventana = Abrir(*v);
-        auto* generar = Hijo<QPushButton>(*ventana, QStringLiteral("BotonGenerarMuyReducida"));
-        QVERIFY(!generar->isEnabled());
-        QVERIFY(ventana->isVisible() && !ventana->isModal());
         pruebas::BaseDeEjemplo(*v);  // 2 triples y 2 dobles: una fila de la tabla
-        QVERIFY(generar->isEnabled());
-
+        // Sin archivo, antes se guarda.
         const fs::path ruta = inst.documentos / "MuyReducida.uxd";
         inst.dialogo.Responder(std::optional<fs::path>(ruta));
+        auto* ventana = Abrir(*v);
+        QCOMPARE(v->Combinacion().ruta, ruta);
+        auto* generar = Hijo<QPushButton>(*ventana, QStringLiteral("BotonGenerarMuyReducida"));
+        QVERIFY(generar->isEnabled());
+        QVERIFY(ventana->isVisible() && !ventana->isModal());
+        // Sin la X del partido 1 la base es de 2 triples y 1 doble, que no está en la tabla.
+        auto* rejilla = Hijo<QTableWidget>(*v, QStringLiteral("RejillaBase"));
+        pruebas::Pulsar(rejilla, 0, 3);
+        QVERIFY(!generar->isEnabled());
+        pruebas::Pulsar(rejilla, 0, 3);
+        QVERIFY(generar->isEnabled());
+
         Hijo<QRadioButton>(*ventana, QStringLiteral("OpcionMuy13"))->setChecked(true);
         const QPointer<ui::VentanaMuyReducida> abierta(ventana);
         QTest::mouseClick(generar, Qt::LeftButton);
-        QTRY_VERIFY_WITH_TIMEOUT(!pruebas::Dichos(inst.dialogo).empty(), 60000);
+        QTRY_VERIFY_WITH_TIMEOUT(pruebas::Dichos(inst.dialogo).size() == 2, 60000);
         QCOMPARE(pruebas::Dichos(inst.dialogo),
-                 std::vector<std::string>{std::string(builders::kMsgMuyReducidaTerminada)});
+                 (std::vector<std::string>{"Por favor guarde antes la combinación",
+                                           std::string(builders::kMsgMuyReducidaTerminada)}));
         QCOMPARE(v->PaginaActual(), static_cast<int>(ui::kBoletos));
         QCOMPARE(v->Combinacion().jugada, std::string("red"));
         QCOMPARE(v->Combinacion().nivelReducida, 0);
@@ -62,13 +70,15 @@ class PruebaMuyReducida : public QObject {
         auto* rejilla = Hijo<QTableWidget>(*v, QStringLiteral("RejillaBase"));
         for (int p = 1; p <= 14; ++p) pruebas::Pulsar(rejilla, p - 1, 2);
         for (auto [p, s] : signos) pruebas::Pulsar(rejilla, p - 1, s + 2);
+        inst.dialogo.Responder(std::optional<fs::path>(inst.documentos / "Larga.uxd"));
         auto* ventana = Abrir(*v);
         auto* generar = Hijo<QPushButton>(*ventana, QStringLiteral("BotonGenerarMuyReducida"));
         QVERIFY(generar->isEnabled());
         inst.dialogo.Responder(base::Respuesta::No);
         QTest::mouseClick(generar, Qt::LeftButton);
         QCOMPARE(pruebas::Dichos(inst.dialogo),
-                 std::vector<std::string>{std::string(builders::kPreguntaProcesoLargo)});
+                 (std::vector<std::string>{"Por favor guarde antes la combinación",
+                                           std::string(builders::kPreguntaProcesoLargo)}));
         QVERIFY(!v->Trabajo().EnCurso());
         QCOMPARE(v->Combinacion().totalGeneradas, 0);
         QVERIFY(!fs::exists(inst.trabajo / "Cmb.tmp"));
