@@ -54,6 +54,15 @@ VentanaSeleccionImpresion::VentanaSeleccionImpresion(std::int32_t ultimoBoleto,
     caja->addLayout(botones);
 }
 
+void VentanaSeleccionImpresion::Abrir(QWidget* madre, std::int32_t ultimoBoleto,
+                                      base::Dialogo& dialogo,
+                                      std::function<void(outputs::RangoDeColumnas)> imprimir) {
+    auto* rango = new VentanaSeleccionImpresion(ultimoBoleto, dialogo, madre);
+    rango->setAttribute(Qt::WA_DeleteOnClose);
+    connect(rango, &VentanaSeleccionImpresion::elegido, madre, std::move(imprimir));
+    rango->open();
+}
+
 void VentanaSeleccionImpresion::Aceptar() {
     const auto rango = outputs::RangoDeImpresion(dialogo_, todos_->isChecked(), S(desde_->text()),
                                                  S(hasta_->text()), ultimoBoleto_);

@@ -2,6 +2,7 @@
 
 #include <QDialog>
 #include <cstdint>
+#include <functional>
 
 #include "base/dialog.h"
 #include "outputs/print_range.h"
@@ -19,6 +20,9 @@ class VentanaSeleccionImpresion : public QDialog {
   public:
     VentanaSeleccionImpresion(std::int32_t ultimoBoleto, base::Dialogo& dialogo,
                               QWidget* madre = nullptr);
+    // La abre sobre la madre y, con límites buenos, llama a imprimir con sus columnas.
+    static void Abrir(QWidget* madre, std::int32_t ultimoBoleto, base::Dialogo& dialogo,
+                      std::function<void(outputs::RangoDeColumnas)> imprimir);
 
   signals:
     void elegido(outputs::RangoDeColumnas rango);
