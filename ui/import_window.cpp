@@ -148,11 +148,9 @@ void VentanaImportar::ImprimirUno() {
 
 void VentanaImportar::ImprimirTodos() {
     if (lista_.columnasImportadas <= 0) return;
-    auto* rango = new VentanaSeleccionImpresion(boleto_->Boletos(), e_.dialogo, this);
-    rango->setAttribute(Qt::WA_DeleteOnClose);
-    connect(rango, &VentanaSeleccionImpresion::elegido, this,
-            [this](outputs::RangoDeColumnas r) { Enviar(r.desde, r.hasta); });
-    rango->open();
+    VentanaSeleccionImpresion::Abrir(
+        this, boleto_->Boletos(), e_.dialogo,
+        [this](outputs::RangoDeColumnas r) { Enviar(r.desde, r.hasta); });
 }
 
 void VentanaImportar::AjustesDeImpresion() {

@@ -79,12 +79,10 @@ void VentanaDeImpresion::OcultarAjuste() { panel_->setVisible(false); }
 int VentanaDeImpresion::BoletoElegido() const { return boleto_->Boleto(); }
 
 void VentanaDeImpresion::ImprimirTodos() {
-    auto* rango = new VentanaSeleccionImpresion(boleto_->Boletos(), dialogo_, this);
-    rango->setAttribute(Qt::WA_DeleteOnClose);
-    connect(rango, &VentanaSeleccionImpresion::elegido, this, [this](outputs::RangoDeColumnas r) {
-        Enviar([this, r] { return Todos(r.desde, r.hasta); });
-    });
-    rango->open();
+    VentanaSeleccionImpresion::Abrir(this, boleto_->Boletos(), dialogo_,
+                                     [this](outputs::RangoDeColumnas r) {
+                                         Enviar([this, r] { return Todos(r.desde, r.hasta); });
+                                     });
 }
 
 }  // namespace quinteva::ui
