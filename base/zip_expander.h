@@ -7,7 +7,7 @@
 namespace quinteva::base {
 
 // Expande un ".zip" en una carpeta. Programa: QuaZip; pruebas: un doble. Devuelve el mensaje del
-// propio expansor si algo falla, nada si todo fue bien.
+// propio expansor si algo falla, nada si salió bien.
 class ExpansorZip {
   public:
     virtual ~ExpansorZip() = default;

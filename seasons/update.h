@@ -44,9 +44,9 @@ struct CarpetaDeDescarga {
 CarpetaDeDescarga PedirCarpetaDeDescarga(base::Red& red, base::Dialogo& dialogo);
 
 // Sustituye los archivos de la temporada por los del servidor: borra los cinco de la carpeta de
-// trabajo, trae "Jlig2.rar", "Jquin.rar", "Jornadas.rar" y "Nomeq.rar" (el primero que falla lo
-// para todo) y luego "Hist.rar" (su fallo no para), y copia los cuatro a la carpeta de la
-// temporada. Devuelve si hay que recargar los datos al cerrar la ventana.
+// trabajo, trae "Jlig2.rar", "Jquin.rar", "Jornadas.rar" y "Nomeq.rar" (el primero que falla
+// detiene la actualización) y luego "Hist.rar" (su fallo no para), y copia los cuatro a la carpeta
+// de la temporada. Devuelve si hay que recargar los datos al cerrar la ventana.
 bool ActualizarTemporada(base::Red& red, base::Dialogo& dialogo,
                          const std::filesystem::path& carpetaTrabajo,
                          const std::filesystem::path& carpetaTemporada,
