@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # Comprueba que la lista de paquetes trae cuanto lee la configuración: cada archivo de CMake
-# que lee la configuración del preajuste dev, fuera del proyecto, es de un paquete de Debian que la
-# lista instala, por sí o por sus Depends (sin Recommends). Así un paquete puesto a mano en una
+# que lee la configuración del preajuste dev, fuera del proyecto, y cada ".pc" que encuentra
+# pkg-config para ella, es de un paquete de Debian que la lista instala, por sí o por sus Depends
+# (sin Recommends). Así un paquete puesto a mano en una
 # máquina no esconde lo que a otra le faltaría.
 #   scripts/comprobar_paquetes.sh [LISTA]     (por omisión, scripts/paquetes.txt)
 # Termina con 1 y el nombre de cada paquete que falta.
@@ -12,16 +13,34 @@ lista="$(realpath "${1:-$raiz/scripts/paquetes.txt}")"
 trabajo="$(mktemp -d)"
 trap 'rm -rf "$trabajo"' EXIT
 
-# Los archivos de CMake que lee la configuración (los de su traza), fuera del proyecto y de la
-# carpeta de prueba.
+# pkg-config, que la configuración llama por FindPkgConfig, anota los ".pc" que encuentra.
+pkg_config_anotado() {
+  local real
+  real="$(command -v pkg-config)" || return 0
+  printf '#!/bin/sh\nexec "%s" --debug "$@" 2>>"%s"\n' "$real" "$trabajo/pkg-config.log" \
+    >"$trabajo/pkg-config"
+  chmod +x "$trabajo/pkg-config"
+  echo "-DPKG_CONFIG_EXECUTABLE=$trabajo/pkg-config"
+}
+
+# Los archivos de CMake que lee la configuración (los de su traza) y los ".pc" que encontró
+# pkg-config, fuera del proyecto y de la carpeta de prueba.
 archivos_de_la_configuracion() {
-  (cd "$raiz" && cmake --preset dev -B "$trabajo/build" --trace-expand --trace-format=json-v1 \
-    --trace-redirect="$trabajo/traza.json") >"$trabajo/configurar.log" 2>&1 || {
+  local anotado
+  anotado="$(pkg_config_anotado)"
+  (cd "$raiz" && cmake --preset dev -B "$trabajo/build" ${anotado:+"$anotado"} --trace-expand \
+    --trace-format=json-v1 --trace-redirect="$trabajo/traza.json") \
+    >"$trabajo/configurar.log" 2>&1 || {
     cat "$trabajo/configurar.log" >&2
     echo "La configuración falló: falta algún paquete en $lista" >&2
     exit 1
   }
-  grep -o '"file":"[^"]*"' "$trabajo/traza.json" | sed 's/^"file":"//; s/"$//' | sort -u |
+  {
+    grep -o '"file":"[^"]*"' "$trabajo/traza.json" | sed 's/^"file":"//; s/"$//'
+    if [ -f "$trabajo/pkg-config.log" ]; then
+      grep -o 'found: /[^ ]*\.pc' "$trabajo/pkg-config.log" | sed 's/^found: //' || true
+    fi
+  } | sort -u |
     while read -r f; do
       case "$f" in "$raiz"/* | "$trabajo"/*) continue ;; esac
       [ -f "$f" ] && echo "$f"
