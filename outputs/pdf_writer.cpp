@@ -44,14 +44,12 @@ std::string NombreDeFuente(const TextoImpreso& t) {
 // El contenido de una página: sus trazos y sus textos.
 std::string Contenido(const Impresion& impresion, int pagina, float alto) {
     std::string c;
-    for (const TrazoImpreso& t : impresion.Trazos()) {
-        if (t.pagina != pagina) continue;
+    for (const TrazoImpreso& t : impresion.TrazosDePagina(pagina)) {
         c += t.punteado ? "[2 2] 0 d\n" : "[] 0 d\n";
         c += Numero(t.x1 * kPuntosPorTwip) + " " + Numero(alto - t.y1 * kPuntosPorTwip) + " m " +
              Numero(t.x2 * kPuntosPorTwip) + " " + Numero(alto - t.y2 * kPuntosPorTwip) + " l S\n";
     }
-    for (const TextoImpreso& t : impresion.Textos()) {
-        if (t.pagina != pagina) continue;
+    for (const TextoImpreso& t : impresion.TextosDePagina(pagina)) {
         const float cuerpo = static_cast<float>(t.tamano);
         const float base = alto - t.y * kPuntosPorTwip - kAscendente * cuerpo;
         c += "BT /" + NombreDeFuente(t) + " " + Numero(cuerpo) + " Tf " +

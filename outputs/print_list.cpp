@@ -35,6 +35,26 @@ void Impresion::Reservar(std::size_t textos, std::size_t trazos) {
     trazos_.reserve(trazos);
 }
 
+namespace {
+
+template <typename T>
+std::span<const T> DePagina(const std::vector<T>& todos, int pagina) {
+    const auto antes = [](const T& elemento, int p) { return elemento.pagina < p; };
+    const auto primero = std::lower_bound(todos.begin(), todos.end(), pagina, antes);
+    const auto ultimo = std::lower_bound(primero, todos.end(), pagina + 1, antes);
+    return {primero, ultimo};
+}
+
+}  // namespace
+
+std::span<const TextoImpreso> Impresion::TextosDePagina(int pagina) const {
+    return DePagina(textos_, pagina);
+}
+
+std::span<const TrazoImpreso> Impresion::TrazosDePagina(int pagina) const {
+    return DePagina(trazos_, pagina);
+}
+
 int Impresion::Paginas() const {
     int paginas = 0;
     if (!textos_.empty()) paginas = textos_.back().pagina;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -51,6 +52,9 @@ class Impresion {
     int Paginas() const;
     const std::vector<TextoImpreso>& Textos() const { return textos_; }
     const std::vector<TrazoImpreso>& Trazos() const { return trazos_; }
+    // Los de una página: van en orden de página, así que se buscan sin recorrer los demás.
+    std::span<const TextoImpreso> TextosDePagina(int pagina) const;
+    std::span<const TrazoImpreso> TrazosDePagina(int pagina) const;
     float YActual() const { return y_; }
 
     // El alto de una línea de texto de ese tamaño en twips (1,15 veces el cuerpo, como Arial).

@@ -32,16 +32,14 @@ void PintarPagina(QPainter& pintor, const outputs::Impresion& impresion, int pag
     pintor.save();
     QPen pluma(Qt::black);
     pluma.setWidthF(resolucion / 96.0);
-    for (const auto& t : impresion.Trazos()) {
-        if (t.pagina != pagina) continue;
+    for (const auto& t : impresion.TrazosDePagina(pagina)) {
         pluma.setStyle(t.punteado ? Qt::DotLine : Qt::SolidLine);
         pintor.setPen(pluma);
         pintor.drawLine(QPointF(t.x1 * escala, t.y1 * escala),
                         QPointF(t.x2 * escala, t.y2 * escala));
     }
     pintor.setPen(Qt::black);
-    for (const auto& t : impresion.Textos()) {
-        if (t.pagina != pagina) continue;
+    for (const auto& t : impresion.TextosDePagina(pagina)) {
         const QFont fuente = Fuente(t, pintor.device());
         pintor.setFont(fuente);
         const double base = t.y * escala + QFontMetricsF(fuente, pintor.device()).ascent();

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <vector>
 
@@ -189,6 +190,23 @@ TEST(MarcasDeBoleto, TodosUnBoletoPorPaginaConElNumeroConPuntoDeMillares) {
                   .Textos()[14]
                   .texto,
               "f Nº 1234");
+}
+
+TEST(MarcasDeBoleto, LosTextosDeUnaPaginaSonLosQueLlevanSuNumero) {
+    const Impresion hoja =
+        ImprimirTodos(Columnas(20), 1, 20,
+                      DisposicionDeBoletos(Direccion::Apaisada, {2340, 1040, 1850, 1130}, "f"));
+    ASSERT_EQ(hoja.Paginas(), 3);
+    std::size_t total = 0;
+    for (int p = 0; p <= 4; ++p) {
+        const auto textos = hoja.TextosDePagina(p);
+        total += textos.size();
+        for (const auto& t : textos) EXPECT_EQ(t.pagina, p);
+        EXPECT_EQ(textos.size(), static_cast<std::size_t>(std::count_if(
+                                     hoja.Textos().begin(), hoja.Textos().end(),
+                                     [p](const TextoImpreso& t) { return t.pagina == p; })));
+    }
+    EXPECT_EQ(total, hoja.Textos().size());
 }
 
 TEST(ImpresionEnBoletos, LaPruebaPideLosCuatroValoresYLosGuarda) {
