@@ -106,11 +106,15 @@ void AleatoriaRed(Combinacion& comb, const EntornoBoletos& entorno) {
     Aleatoria(comb, Jugada::Reducida, entorno);
 }
 
+void MarcarJugada(Combinacion& comb, Jugada jugada) {
+    EscribirJugada(comb.ruta, jugada);
+    comb.jugada = std::string(CampoJugada(jugada));
+}
+
 void ElegirJugada(Combinacion& comb, Jugada jugada, const EntornoBoletos& entorno,
                   const std::function<bool()>& anadirManual) {
     ExigirColumnasGuardadas(ConjuntoDe(comb, jugada, entorno.carpetaTrabajo), jugada);
-    EscribirJugada(comb.ruta, jugada);
-    comb.jugada = std::string(CampoJugada(jugada));
+    MarcarJugada(comb, jugada);
 
     if (UnaSolaEnElUltimoBoleto(ApuestasJugadas(comb, jugada))) {
         const bool aMano =

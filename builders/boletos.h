@@ -70,6 +70,10 @@ void AleatoriaCon(engine::Combinacion& combinacion, const EntornoBoletos& entorn
 void AleatoriaRed(engine::Combinacion& combinacion, const EntornoBoletos& entorno);
 void Aleatoria(engine::Combinacion& combinacion, Jugada jugada, const EntornoBoletos& entorno);
 
+// La opción del conjunto jugado tal como la ponen los asistentes: el campo de la cabecera del
+// ".uxd" (que ya existe) y el de la Combinación, sin las comprobaciones de ElegirJugada.
+void MarcarJugada(engine::Combinacion& combinacion, Jugada jugada);
+
 // Elegir "Condicionada" o "Reducida": escribe "cnd" o "red" en la cabecera del ".uxd" y, si las
 // activas dejarían una sola columna en el último Boleto, pregunta si se añade a mano; con No, o
 // si anadirManual (la ventana de columnas manuales) vuelve sin añadir, añade una al azar. Al

@@ -49,6 +49,16 @@ void CamposDeFila(engine::SetCondiciones& c, int fila, F campos) {
     }
 }
 
+// Lo elegido en la fila o, lo que falte, el límite de la tabla.
+void PonerFila(engine::SetCondiciones& c, int fila, const LimiteBasica& l) {
+    CamposDeFila(c, fila, [&](auto& minimo, auto& maximo, auto posMin, auto posMax) {
+        using Min = std::remove_reference_t<decltype(minimo)>;
+        using Max = std::remove_reference_t<decltype(maximo)>;
+        minimo = static_cast<Min>(l.minimo.value_or(static_cast<int>(posMin)));
+        maximo = static_cast<Max>(l.maximo.value_or(static_cast<int>(posMax)));
+    });
+}
+
 bool AlgunaMarcada(const LimitesBasica& l, int desde, int hasta) {
     return std::any_of(l.begin() + desde, l.begin() + hasta + 1,
                        [](const LimiteBasica& f) { return f.Marcada(); });
@@ -82,6 +92,10 @@ std::pair<int, int> RangoDeFila(const engine::SetCondiciones& condiciones, int f
     return rango;
 }
 
+void SoltarFilaBasica(engine::SetCondiciones& condiciones, int fila) {
+    PonerFila(condiciones, fila, LimiteBasica{});
+}
+
 std::optional<std::int32_t> ComprobarBasica(std::string_view numero, float columnasBase,
                                             const LimitesBasica& limites, base::Dialogo& dialogo) {
     numero = base::Recortar(numero);
@@ -111,13 +125,7 @@ std::optional<std::int32_t> ComprobarBasica(std::string_view numero, float colum
 
 std::int16_t PonerLimitesBasica(engine::SetCondiciones& condiciones, const LimitesBasica& limites) {
     for (int fila = 0; fila < kFilasBasica; ++fila) {
-        const LimiteBasica& l = limites[static_cast<std::size_t>(fila)];
-        CamposDeFila(condiciones, fila, [&](auto& minimo, auto& maximo, auto posMin, auto posMax) {
-            using Min = std::remove_reference_t<decltype(minimo)>;
-            using Max = std::remove_reference_t<decltype(maximo)>;
-            minimo = static_cast<Min>(l.minimo.value_or(static_cast<int>(posMin)));
-            maximo = static_cast<Max>(l.maximo.value_or(static_cast<int>(posMax)));
-        });
+        PonerFila(condiciones, fila, limites[static_cast<std::size_t>(fila)]);
     }
     const bool generales = AlgunaMarcada(limites, 0, 2);
     const bool seguidos = AlgunaMarcada(limites, 5, 7);

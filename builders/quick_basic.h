@@ -46,6 +46,10 @@ using LimitesBasica = std::array<LimiteBasica, kFilasBasica>;
 // Los valores que ofrece una fila: de la base (mínimo a máximo posibles) o de 0 a 13.
 std::pair<int, int> RangoDeFila(const engine::SetCondiciones& condiciones, int fila);
 
+// Al desmarcar una fila: su par de límites en las condiciones vuelve al de la tabla (el de la
+// base, o 0 y 14).
+void SoltarFilaBasica(engine::SetCondiciones& condiciones, int fila);
+
 // Los pasos 1 a 4 de "&Generar": el número (vacío, más que las posibles, o que deja un último
 // boleto de una columna) y cada fila con mínimo por encima del máximo. El número, o nada con el
 // mensaje dicho.

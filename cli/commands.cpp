@@ -96,6 +96,22 @@ std::span<const Subcomando> Subcomandos() {
          "reducciones, generada, reducida al nivel, guardada y con las reducidas para jugar.",
          {{"base", "pleno", "nivel", "jornada"}, {}},
          &MuyReducidaCmd},
+        {"porcentajes",
+         "porcentajes RUTA.uxd --base \"1X2 1 X 12 ...\" --pleno H-A --columnas N --semilla S "
+         "--porcentajes \"50-30-20 ...\" [--jornada N]",
+         "\"Quiniela por Porcentajes\": N columnas repartidas por los porcentajes 1-X-2 de cada "
+         "partido (14 tríos; un partido fijo va al 100 en su signo), sin repetidas, guardadas y "
+         "para jugar.",
+         {{"base", "pleno", "columnas", "semilla", "porcentajes", "jornada"}, {}},
+         &PorcentajesCmd},
+        {"rapida-basica",
+         "rapida-basica RUTA.uxd --base \"1X2 1 X 12 ...\" --pleno H-A --columnas N [--equis "
+         "MIN-MAX] [--doses ...] [--variantes ...] [--interrupciones ...] "
+         "[--interrupciones-consecutivas ...] [--unos-seguidos ...] [--equis-seguidas ...] "
+         "[--doses-seguidos ...] [--semilla S] [--jornada N]",
+         "\"Quiniela rápida Básica\": las filas dadas (MIN-MAX, MIN- o -MAX) a las condiciones, "
+         "generar, guardar y ajustar a N las columnas generadas para jugar.",
+         OpcionesRapidaBasica(), &RapidaBasicaCmd},
         {"ponderar", "ponderar [--local-MARCA ...] [--visitante-MARCA ...] [--json]",
          "\"Ponderar equipos\" de un partido: MARCA es bajas-importantes, contrario-se-le-da-mal, "
          "campo-le-perjudica, arbitro-no-le-favorece, otras-desfavorables o favorables; da "

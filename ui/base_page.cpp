@@ -102,17 +102,15 @@ PaginaBase::PaginaBase(QWidget* madre) : QWidget(madre) {
 
     auto* rapidas = new QGroupBox(QStringLiteral("Quinielas rápidas"), this);
     auto* botones = new QHBoxLayout(rapidas);
-    for (const auto& [nombre, texto] : {std::pair{"BotonPorcentajes", "Quiniela por Porcentajes"},
-                                        std::pair{"BotonMuyReducida", "Quiniela muy reducida"},
-                                        std::pair{"BotonBasica", "Generar Quin. Básica"}}) {
+    const auto rapida = [&](const char* nombre, const char* texto, void (PaginaBase::*senal)()) {
         auto* b = new QPushButton(QString::fromUtf8(texto), rapidas);
         b->setObjectName(QString::fromUtf8(nombre));
-        b->setEnabled(false);
+        connect(b, &QPushButton::clicked, this, senal);
         botones->addWidget(b);
-    }
-    auto* muyReducida = rapidas->findChild<QPushButton*>(QStringLiteral("BotonMuyReducida"));
-    muyReducida->setEnabled(true);
-    connect(muyReducida, &QPushButton::clicked, this, &PaginaBase::muyReducida);
+    };
+    rapida("BotonPorcentajes", "Quiniela por Porcentajes", &PaginaBase::porPorcentajes);
+    rapida("BotonMuyReducida", "Quiniela muy reducida", &PaginaBase::muyReducida);
+    rapida("BotonBasica", "Generar Quin. Básica", &PaginaBase::rapidaBasica);
     auto* ponderar = new QPushButton(QStringLiteral("Ponderar equipos"), rapidas);
     ponderar->setObjectName(QStringLiteral("BotonPonderar"));
     connect(ponderar, &QPushButton::clicked, this, &PaginaBase::ponderar);

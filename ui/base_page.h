@@ -37,9 +37,11 @@ class PaginaBase : public QWidget {
 
   signals:
     void jornadaElegida(int jornada);
-    // "Ponderar equipos" y "Quiniela muy reducida".
+    // "Ponderar equipos" y los tres asistentes de "Quinielas rápidas".
     void ponderar();
+    void porPorcentajes();
     void muyReducida();
+    void rapidaBasica();
     // partido 1 a 14, signo 0, 1, 2.
     void signoPulsado(int partido, int signo);
     // lado 0 local, 1 visitante; texto "" o una tecla.

@@ -89,7 +89,7 @@ VentanaPrincipal::VentanaPrincipal(Servicios servicios, QWidget* madre)
     temporizadorVersion_.setInterval(3000);
     connect(&temporizadorVersion_, &QTimer::timeout, this, &VentanaPrincipal::ComprobarVersion);
     connect(&trabajo_, &TrabajoEnSegundoPlano::fallo, this, [this](const QString& error) {
-        alAcabar_ = {};
+        SeguirAsistente(false);
         refresco_.stop();
         ajustando_ = false;
         Ocupado(false);
@@ -149,6 +149,8 @@ void VentanaPrincipal::CrearPaginas() {
 
     connect(base_, &PaginaBase::jornadaElegida, this, &VentanaPrincipal::ElegirJornada);
     connect(base_, &PaginaBase::muyReducida, this, &VentanaPrincipal::AbrirMuyReducida);
+    connect(base_, &PaginaBase::porPorcentajes, this, &VentanaPrincipal::AbrirPorcentajes);
+    connect(base_, &PaginaBase::rapidaBasica, this, &VentanaPrincipal::AbrirRapidaBasica);
     connect(base_, &PaginaBase::ponderar, this,
             [this] { AbrirVentana(new VentanaPonderar(base_->Partidos(), pesos_, this)); });
     connect(base_, &PaginaBase::signoPulsado, this, &VentanaPrincipal::SignoPulsado);
@@ -752,7 +754,7 @@ void VentanaPrincipal::FinGeneracion() {
     Ocupado(false);
     generar_->info->setEnabled(resultado_.infoHabilitado);
     if (resultado_.avisoBoletos) AvisoBoletos();
-    SeguirAsistente(!resultado_.detenida && resultado_.reducirHabilitado);
+    SeguirAsistente(!resultado_.detenida);
 }
 
 void VentanaPrincipal::Reducir() {

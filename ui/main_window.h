@@ -41,6 +41,8 @@ class PaginaGenerar;
 class PaginaReducir;
 class PaginaBoletos;
 class PanelEstadoQt;
+class VentanaPorcentajes;
+class VentanaRapidaBasica;
 
 // Lo que la ventana principal toma del programa: la carpeta de trabajo, la del programa (la de su
 // ejecutable), la de los datos que trae (la temporada de demostración), los ajustes, el Dialogo
@@ -132,6 +134,12 @@ class VentanaPrincipal : public QMainWindow {
     // reducir al nivel elegido, guardar y pasar a Boletos con las reducidas).
     void AbrirMuyReducida();
     void MuyReducida(int nivel);
+    // "Quiniela por Porcentajes": la ventana de los porcentajes y su "&Generar" (repartir,
+    // guardar y pasar a Boletos con las columnas generadas).
+    void AbrirPorcentajes();
+    // "Generar Quin. Básica": la ventana de los límites opcionales y su "&Generar" (condiciones,
+    // generar, guardar y ajustar al número pedido).
+    void AbrirRapidaBasica();
     // "Importar &archivo": listas de columnas hechas fuera, impresas o en archivo oficial.
     void ImportarArchivo();
     void EliminarManual();
@@ -263,10 +271,15 @@ class VentanaPrincipal : public QMainWindow {
     // PesoLocal y PesoVisitante de "Ponderar equipos": duran lo que el programa.
     builders::PesosEquipos pesos_;
     QPointer<VentanaMuyReducida> muyReducida_;
-    // El paso siguiente de un asistente cuando acaba el trabajo en curso (generar, reducir); con
-    // false (detenido o sin columnas) el asistente se abandona.
-    std::function<void()> alAcabar_;
+    // El paso siguiente de un asistente cuando acaba el trabajo en curso (generar, reducir,
+    // ajustar), con false si se detuvo, falló o no llegó a empezar.
+    std::function<void(bool)> alAcabar_;
     void SeguirAsistente(bool seguir);
+    void PasoDeAsistente(void (VentanaPrincipal::*paso)(), std::function<void(bool)> despues);
+    void PorPorcentajes(VentanaPorcentajes* ventana);
+    void RapidaBasica(VentanaRapidaBasica* ventana);
+    // Tras generar: la pregunta si hay menos de las pedidas, y el ajuste. false si no sigue.
+    bool BasicaGenerada(const QPointer<VentanaRapidaBasica>& ventana, std::int32_t pedidas);
     DialogoEntreHilos dialogoDelHilo_{s_.dialogo, this};
     QString fechaJornada_;
     bool verContador_ = true;

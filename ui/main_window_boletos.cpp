@@ -96,6 +96,7 @@ void VentanaPrincipal::FinAjuste() {
     ajustando_ = false;
     Ocupado(false);
     if (ajuste_.focoEnCampo) boletos_->campoAjustar->setFocus();
+    SeguirAsistente(true);
 }
 
 int VentanaPrincipal::AnioDeLaJornada() const {

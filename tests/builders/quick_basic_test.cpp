@@ -90,6 +90,21 @@ TEST(RapidaBasica, LasFamiliasYNumCondicionesPorLasFilasMarcadas) {
     EXPECT_TRUE(c.casilla[10]);
 }
 
+TEST(RapidaBasica, DesmarcarUnaFilaDevuelveSuParAlDeLaTablaYNoTocaLasDemas) {
+    engine::SetCondiciones c = Condiciones();
+    LimitesBasica limites{};
+    limites[1] = {1, 2};
+    limites[3] = {4, 6};
+    PonerLimitesBasica(c, limites);
+    SoltarFilaBasica(c, 3);
+    EXPECT_EQ(c.minInter, 0);
+    EXPECT_EQ(c.maxInter, 14);
+    EXPECT_EQ(c.minDoses, 1);
+    SoltarFilaBasica(c, 1);
+    EXPECT_EQ(c.minDoses, c.posMinDoses);
+    EXPECT_EQ(c.maxDoses, c.posMaxDoses);
+}
+
 TEST(RapidaBasica, LoQueOfreceCadaFila) {
     const engine::SetCondiciones c = Condiciones();
     EXPECT_EQ(RangoDeFila(c, 0), (std::pair<int, int>{c.posMinEquis, c.posMaxEquis}));

@@ -1,6 +1,9 @@
-// quinteva-cli muy-reducida: la Combinación nueva, generada, reducida, guardada y con las
-// reducidas para jugar.
+// Los asistentes de un paso en quinteva-cli: muy-reducida, porcentajes y rapida-basica, cada uno
+// con la Combinación nueva guardada y su conjunto para jugar.
 #include <gtest/gtest.h>
+
+#include <algorithm>
+#include <set>
 
 #include "outputs/played_set.h"
 #include "tests/cli/cli_runner.h"
@@ -43,6 +46,111 @@ TEST(CliMuyReducida, UnaBaseSinFilaNoSeGenera) {
                           "' --base \"1X\" --pleno 1-0 --nivel 10" + carpeta)
                   .codigo,
               2);
+}
+
+}  // namespace
+}  // namespace quinteva::pruebas
+
+namespace quinteva::pruebas {
+namespace {
+
+// Los 14 tríos de --porcentajes: los mismos en todos los partidos.
+std::string Trios(const std::string& trio) {
+    std::string trios;
+    for (int p = 0; p < 14; ++p) trios += (p > 0 ? " " : "") + trio;
+    return trios;
+}
+
+const std::string kOchoTriples = "1X2 1X2 1X2 1X2 1X2 1X2 1X2 1X2 1 1 1 1 1 1";
+
+TEST(CliPorcentajes, LasColumnasPedidasGuardadasSinRepetidasYParaJugar) {
+    CarpetaTemporal trabajo;
+    const std::string carpeta = " --carpeta '" + trabajo.Ruta().string() + "'";
+    const auto uxd = trabajo / "Porc.uxd";
+    const std::string orden = "porcentajes '" + uxd.string() + "' --base \"" + kOchoTriples +
+                              "\" --pleno 1-0 --columnas 40 --semilla 3 --porcentajes \"" +
+                              Trios("50-30-20") + "\" --json" + carpeta;
+    const Salida s = EjecutarCli(orden);
+    ASSERT_EQ(s.codigo, 0) << s.errores;
+    EXPECT_EQ(s.salida,
+              "{\"TotalGeneradas\": 40, \"ValorPorcentajes\": 40, \"Jugada\": \"cnd\"}\n");
+    EXPECT_EQ(s.errores, "Proceso terminado. Ya puede imprimir sus boletos\n");
+    const auto columnas = outputs::LeerColumnas(trabajo / "Porc.cnd", true);
+    ASSERT_EQ(columnas.size(), 40U);
+    std::set<std::string> distintas;
+    for (const auto& r : columnas) distintas.insert(engine::TextoDeColumna(r.columna));
+    EXPECT_EQ(distintas.size(), 40U);
+    // La misma semilla, las mismas columnas.
+    const auto primero = std::filesystem::path(trabajo / "Porc.cnd");
+    std::filesystem::copy_file(primero, trabajo / "Antes.cnd");
+    ASSERT_EQ(EjecutarCli(orden).codigo, 0);
+    EXPECT_EQ(outputs::LeerColumnas(trabajo / "Antes.cnd", true), columnas);
+}
+
+TEST(CliPorcentajes, UnaLineaQueNoSumaCienONumeroMaloNoCambianNada) {
+    CarpetaTemporal trabajo;
+    const std::string carpeta = " --carpeta '" + trabajo.Ruta().string() + "'";
+    const auto uxd = trabajo / "Mala.uxd";
+    const std::string comun = "porcentajes '" + uxd.string() + "' --base \"" + kOchoTriples +
+                              "\" --pleno 1-0 --semilla 3" + carpeta;
+    std::string trios = Trios("50-30-20");
+    trios.replace(trios.find("50-30-20", 9), 8, "50-31-20");
+    const Salida s = EjecutarCli(comun + " --columnas 40 --porcentajes \"" + trios + "\"");
+    EXPECT_EQ(s.codigo, 1);
+    EXPECT_EQ(s.errores, "Los porcentajes del partido 2 no suman 100\n");
+    EXPECT_FALSE(std::filesystem::exists(uxd));
+    EXPECT_FALSE(std::filesystem::exists(trabajo / "Mala.cnd"));
+    // Un número que no lo es, y un número que deja un boleto de una columna.
+    const Salida letras =
+        EjecutarCli(comun + " --columnas doce --porcentajes \"" + Trios("50-30-20") + "\"");
+    EXPECT_EQ(letras.codigo, 1);
+    EXPECT_EQ(letras.errores,
+              "Tiene que indicar el número de columnas que debe tener la combinación\n");
+    const Salida nueve =
+        EjecutarCli(comun + " --columnas 9 --porcentajes \"" + Trios("50-30-20") + "\"");
+    EXPECT_EQ(nueve.codigo, 1);
+    EXPECT_FALSE(std::filesystem::exists(uxd));
+    // Tríos mal escritos o que no son 14: error de uso.
+    EXPECT_EQ(EjecutarCli(comun + " --columnas 40 --porcentajes \"50-30\"").codigo, 2);
+    EXPECT_EQ(
+        EjecutarCli(comun + " --columnas 40 --porcentajes \"" + Trios("50-30-20") + " 1-1-98\"")
+            .codigo,
+        2);
+}
+
+TEST(CliRapidaBasica, LasFilasALasCondicionesYAjustadaAlNumero) {
+    CarpetaTemporal trabajo;
+    const std::string carpeta = " --carpeta '" + trabajo.Ruta().string() + "'";
+    const auto uxd = trabajo / "Basica.uxd";
+    const Salida s = EjecutarCli("rapida-basica '" + uxd.string() +
+                                 "' --base \"1X2 1X2 1X2 1X2 1X2 1X 1X 1 1 1 1 1 1 1\" --pleno "
+                                 "1-0 --columnas 40 --equis 2-3 --interrupciones 4- --semilla 5 "
+                                 "--json" +
+                                 carpeta);
+    ASSERT_EQ(s.codigo, 0) << s.errores;
+    EXPECT_EQ(s.salida,
+              "{\"NumCondiciones\": 2, \"TotalGeneradas\": 459, \"ActivasGeneradas\": 40, "
+              "\"Jugada\": \"cnd\"}\n");
+    EXPECT_EQ(outputs::LeerColumnas(trabajo / "Basica.cnd", true).size(), 40U);
+    for (const auto& r : outputs::LeerColumnas(trabajo / "Basica.cnd", true)) {
+        const auto equis = std::count(r.columna.begin(), r.columna.end(), 'X');
+        EXPECT_GE(equis, 2);
+        EXPECT_LE(equis, 3);
+    }
+}
+
+TEST(CliRapidaBasica, UnaFilaFueraDeSuRangoOMinimoSobreMaximo) {
+    CarpetaTemporal trabajo;
+    const std::string carpeta = " --carpeta '" + trabajo.Ruta().string() + "'";
+    const std::string comun = "rapida-basica '" + (trabajo / "B.uxd").string() +
+                              "' --base \"1X2 1X2 1X2 1 1 1 1 1 1 1 1 1 1 1\" --pleno 1-0" +
+                              carpeta;
+    EXPECT_EQ(EjecutarCli(comun + " --columnas 16 --interrupciones 3-14").codigo, 2);
+    EXPECT_EQ(EjecutarCli(comun + " --columnas 16 --equis 2").codigo, 2);
+    const Salida s = EjecutarCli(comun + " --columnas 16 --doses 3-1");
+    EXPECT_EQ(s.codigo, 1);
+    EXPECT_EQ(s.errores, "El número máximo de Doses no puede ser menor que el mínimo de Doses\n");
+    EXPECT_FALSE(std::filesystem::exists(trabajo / "B.cnd"));
 }
 
 }  // namespace
