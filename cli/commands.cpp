@@ -89,6 +89,12 @@ std::span<const Subcomando> Subcomandos() {
          "las páginas en PDF o las marcas de cada página (twips).",
          {{"direccion", "desde", "hasta", "papel", "pdf"}, {"marcas"}},
          &Imprimir},
+        {"informe-condiciones",
+         "informe-condiciones RUTA.uxd --pdf F.pdf",
+         "\"Quinteva [Condiciones]\": el resumen, la Quiniela Base con los porcentajes de cada "
+         "signo y cada familia de condiciones activa, en PDF.",
+         {{"pdf"}, {}},
+         &InformeCondicionesCmd},
         {"muy-reducida",
          "muy-reducida RUTA.uxd --base \"1X2 1 X 12 ...\" --pleno H-A --nivel 13|12|11 "
          "[--jornada N]",

@@ -43,6 +43,7 @@ int Ponderar(const Argumentos& argumentos, std::ostream& salida);
 OpcionesAdmitidas OpcionesPonderar();
 int Importar(const Argumentos& argumentos, std::ostream& salida);
 int Imprimir(const Argumentos& argumentos, std::ostream& salida);
+int InformeCondicionesCmd(const Argumentos& argumentos, std::ostream& salida);
 int Actualizar(const Argumentos& argumentos, std::ostream& salida);
 int QuinielaResultados(const Argumentos& argumentos, std::ostream& salida);
 int Nueva(const Argumentos& argumentos, std::ostream& salida);

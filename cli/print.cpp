@@ -8,14 +8,12 @@
 #include "cli/answering_dialog.h"
 #include "cli/commands.h"
 #include "cli/json_output.h"
+#include "cli/matchday_date.h"
 #include "outputs/pdf_writer.h"
 #include "outputs/played_set.h"
 #include "outputs/print_paper.h"
 #include "outputs/print_range.h"
 #include "outputs/print_slips.h"
-#include "seasons/league.h"
-#include "seasons/pools.h"
-#include "seasons/season_folder.h"
 
 namespace quinteva::cli {
 namespace {
@@ -23,17 +21,6 @@ namespace {
 constexpr std::string_view kUso =
     "imprimir RUTA.uxd [--direccion vertical|apaisada] [--desde N --hasta M] "
     "[--papel boleto|blanco] (--pdf F.pdf | --marcas --json)";
-
-// La fecha de la Jornada de la Combinación en la temporada en curso, "dd/mm/aa"; vacía si no está.
-std::string FechaDeJornada(const std::filesystem::path& carpetaTrabajo, int jornada) {
-    try {
-        const auto partidos =
-            seasons::PartidosDeQuiniela(seasons::CarpetaTemporadaEnCurso(carpetaTrabajo), jornada);
-        return partidos.empty() ? std::string() : seasons::FechaCorta(partidos.front().fecha);
-    } catch (const base::Error&) {
-        return {};
-    }
-}
 
 // Twips con dos decimales como mucho: "2340", "1326.69".
 std::string Numero(float valor) {

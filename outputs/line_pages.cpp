@@ -1,6 +1,7 @@
 #include "outputs/line_pages.h"
 
 #include "outputs/pdf_writer.h"
+#include "outputs/text_width.h"
 
 namespace quinteva::outputs {
 
@@ -35,6 +36,22 @@ void HojaDeLineas::Par(std::string_view primero, std::string_view segundo, float
     hoja_.Negrita(true);
     hoja_.Texto(izquierda_ + columna, y_, segundo);
     y_ = hoja_.YActual();
+}
+
+void HojaDeLineas::Fila(std::span<const std::string> celdas, std::span<const ColumnaTabla> columnas,
+                        std::string_view fuente, int tamano, bool negrita) {
+    Sitio(Impresion::AltoDeLinea(tamano));
+    hoja_.Fuente(fuente, tamano, negrita);
+    float x = izquierda_;
+    for (std::size_t i = 0; i < celdas.size() && i < columnas.size(); ++i) {
+        const float libre = columnas[i].ancho - AnchoDeTexto(celdas[i], fuente, tamano, negrita);
+        const float desde = columnas[i].alineacion == Alineacion::Izquierda ? 0.0F
+                            : columnas[i].alineacion == Alineacion::Centro  ? libre / 2.0F
+                                                                            : libre;
+        if (!celdas[i].empty()) hoja_.Texto(x + desde, y_, celdas[i]);
+        x += columnas[i].ancho;
+    }
+    y_ += Impresion::AltoDeLinea(tamano);
 }
 
 Impresion HojaDeLineas::Terminar() {

@@ -242,7 +242,8 @@ void VentanaPrincipal::CrearMenus() {
 
     QMenu* ver = menuBar()->addMenu(QStringLiteral("&Ver"));
     ver->setObjectName(QStringLiteral("MenuVer"));
-    Accion(ver, QStringLiteral("&Resumen de Condiciones"), QStringLiteral("AccionResumen"), false);
+    connect(Accion(ver, QStringLiteral("&Resumen de Condiciones"), QStringLiteral("AccionResumen")),
+            &QAction::triggered, this, &VentanaPrincipal::ResumenDeCondiciones);
     QMenu* listados = ver->addMenu(QStringLiteral("&Listados"));
     listadoCondicionadas_ = Accion(listados, QStringLiteral("De Apuestas &Condicionadas"),
                                    QStringLiteral("AccionListadoCondicionadas"), false);

@@ -128,6 +128,9 @@ class VentanaPrincipal : public QMainWindow {
     void ImprimirEnBoletos();
     void ImprimirEnPapel();
     void SeleccionarImpresora();
+    // "&Resumen de Condiciones": "Quinteva [Condiciones]", el informe de la base y las
+    // condiciones con su vista previa.
+    void ResumenDeCondiciones();
     // "Visor de Quinielas": el informe de las columnas que se juegan, con su vista previa.
     void VisorDeQuinielas();
     // "Quiniela muy reducida": la ventana junto a la base y su "Generar" de un paso (generar,

@@ -1,6 +1,9 @@
-// Los mandatos de la ventana principal que imprimen: las columnas que se juegan, su informe, las
-// listas importadas y la impresora.
+// Los mandatos de la ventana principal que imprimen: las columnas que se juegan, su informe, el de
+// las condiciones, las listas importadas y la impresora.
+#include <QApplication>
+
 #include "builders/boletos.h"
+#include "outputs/conditions_report.h"
 #include "outputs/played_set.h"
 #include "outputs/printed_reports.h"
 #include "ui/import_window.h"
@@ -55,6 +58,27 @@ void VentanaPrincipal::VisorDeQuinielas() {
     AbrirVentana(new VentanaVisor({QStringLiteral("Visor de Quinielas"), std::move(informe),
                                    fs::path(ruta).replace_extension(".pdf")},
                                   s_.dialogo, s_.imprimir, this));
+}
+
+void VentanaPrincipal::ResumenDeCondiciones() {
+    if (trabajo_.EnCurso()) return;
+    const fs::path ruta = comb_.ruta;
+    const std::string nombre = ruta.stem().string();
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+    try {
+        const auto datos = outputs::LeerDatosPrevios(comb_, s_.carpetaTrabajo, s_.ajustes);
+        auto informe =
+            outputs::InformeCondiciones(comb_, {comb_.jornada, S(fechaJornada_), nombre}, datos);
+        QApplication::restoreOverrideCursor();
+        const fs::path carpeta = ruta.empty() ? s_.carpetaTrabajo : ruta.parent_path();
+        AbrirVentana(new VentanaVisor(
+            {QStringLiteral("Quinteva [Condiciones]"), std::move(informe),
+             carpeta / ((nombre.empty() ? std::string("Quiniela") : nombre) + " Condiciones.pdf")},
+            s_.dialogo, s_.imprimir, this));
+    } catch (const std::exception& e) {
+        QApplication::restoreOverrideCursor();
+        Fallo(e);
+    }
 }
 
 void VentanaPrincipal::ImportarArchivo() {

@@ -1,8 +1,10 @@
 // Los asistentes de un paso en quinteva-cli: muy-reducida, porcentajes y rapida-basica, cada uno
-// con la Combinación nueva guardada y su conjunto para jugar.
+// con la Combinación nueva guardada y su conjunto para jugar; y el informe de sus condiciones.
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstdlib>
+#include <fstream>
 #include <set>
 
 #include "outputs/played_set.h"
@@ -151,6 +153,55 @@ TEST(CliRapidaBasica, UnaFilaFueraDeSuRangoOMinimoSobreMaximo) {
     EXPECT_EQ(s.codigo, 1);
     EXPECT_EQ(s.errores, "El número máximo de Doses no puede ser menor que el mínimo de Doses\n");
     EXPECT_FALSE(std::filesystem::exists(trabajo / "B.cnd"));
+}
+
+}  // namespace
+}  // namespace quinteva::pruebas
+
+namespace quinteva::pruebas {
+namespace {
+
+// Lo que pdftotext saca de un PDF.
+std::string TextoDelPdf(const std::filesystem::path& pdf, const std::filesystem::path& txt) {
+    const std::string orden = "pdftotext -layout '" + pdf.string() + "' '" + txt.string() + "'";
+    if (std::system(orden.c_str()) != 0) return {};
+    std::ifstream f(txt);
+    return {std::istreambuf_iterator<char>(f), {}};
+}
+
+TEST(CliInformeCondiciones, ElPdfLlevaElResumenLaBaseYSoloLasFamiliasActivas) {
+    CarpetaTemporal trabajo;
+    const std::string carpeta = " --carpeta '" + trabajo.Ruta().string() + "'";
+    const auto uxd = trabajo / "Informe.uxd";
+    ASSERT_EQ(EjecutarCli("rapida-basica '" + uxd.string() +
+                          "' --base \"1X2 1X2 1X2 1X2 1X2 1X 1X 1 1 1 1 1 1 1\" --pleno 1-0 "
+                          "--columnas 40 --equis 2-3 --unos-seguidos 7-9 --semilla 5 --jornada 12" +
+                          carpeta)
+                  .codigo,
+              0);
+    const auto pdf = trabajo / "Informe.pdf";
+    const Salida s = EjecutarCli("informe-condiciones '" + uxd.string() + "' --pdf '" +
+                                 pdf.string() + "'" + carpeta);
+    ASSERT_EQ(s.codigo, 0) << s.errores;
+    EXPECT_EQ(s.salida, "Páginas: 1\n");
+    const std::string texto = TextoDelPdf(pdf, trabajo / "Informe.txt");
+    for (const char* esperado :
+         {"Quinteva - Condiciones de la Combinación", "Jornada: 12", "Nombre: Informe",
+          // pdftotext junta los blancos entre las partes del resumen.
+          "Sin reducir", "Apuestas eliminadas manual.: 480", "Apuestas jugadas: 40 (30,00 €)",
+          "Quiniela Base", "Generales", "Nº de Equis", "Seguidos", "Unos seguidos", "Página 1",
+          "Quinteva (quinteva.example)"}) {
+        EXPECT_NE(texto.find(esperado), std::string::npos) << esperado;
+    }
+    for (const char* ausente : {"Interrupciones", "Parejas", "Tríos", "Sumas", "Grupos"}) {
+        EXPECT_EQ(texto.find(ausente), std::string::npos) << ausente;
+    }
+    // Una página: pdftotext las separa con un salto de página.
+    EXPECT_EQ(std::count(texto.begin(), texto.end(), '\f'), 1);
+    EXPECT_EQ(EjecutarCli("informe-condiciones '" + uxd.string() + "'" + carpeta).codigo, 2);
+    const Salida falta = EjecutarCli("informe-condiciones '" + (trabajo / "No.uxd").string() +
+                                     "' --pdf '" + pdf.string() + "'" + carpeta);
+    EXPECT_EQ(falta.codigo, 1);
 }
 
 }  // namespace

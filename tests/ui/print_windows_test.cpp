@@ -7,6 +7,8 @@
 #include <QPrinter>
 #include <QRadioButton>
 #include <QtTest>
+#include <algorithm>
+#include <cstdlib>
 #include <fstream>
 
 #include "outputs/import_list.h"
@@ -182,6 +184,37 @@ class PruebaVentanasImpresion : public QObject {
         f.read(cabecera.data(), 8);
         QCOMPARE(cabecera, std::string("%PDF-1.4"));
         QCOMPARE(inst.dialogo.Registro().back().texto, std::string("Guardar PDF"));
+        visor->close();
+    }
+
+    void ElResumenDeCondicionesSeVeSeImprimeYSuPdfSeLee() {
+        pruebas::Instalacion inst;
+        const fs::path ruta = inst.documentos / "Resumen.uxd";
+        auto v = pruebas::Guardada(inst, ruta);
+        pruebas::Marcar(*v, "OpcionReducida");
+        auto* visor = pruebas::AbrirDesdeMenu<ui::VentanaVisor>(*v, "AccionResumen");
+        QCOMPARE(visor->windowTitle(), QStringLiteral("Quinteva [Condiciones]"));
+        pruebas::Pulsar(*visor, "BotonImprimir");
+        QCOMPARE(inst.impresas.size(), 1U);
+        const auto& textos = inst.impresas[0].Textos();
+        QCOMPARE(textos[0].texto, std::string("Quinteva - Condiciones de la Combinación"));
+        QVERIFY(std::any_of(textos.begin(), textos.end(), [](const outputs::TextoImpreso& t) {
+            return t.texto.rfind("Reducida al 13   Apuestas eliminadas manual.: 0", 0) == 0;
+        }));
+        // El PDF, leído con pdftotext.
+        const fs::path pdf = inst.documentos / "Resumen Condiciones.pdf";
+        inst.dialogo.Responder(std::optional<fs::path>(pdf));
+        pruebas::Pulsar(*visor, "BotonGuardarPdf");
+        const fs::path texto = inst.documentos / "Resumen.txt";
+        const std::string orden =
+            "pdftotext -layout '" + pdf.string() + "' '" + texto.string() + "'";
+        QCOMPARE(std::system(orden.c_str()), 0);
+        std::ifstream f(texto);
+        const std::string leido((std::istreambuf_iterator<char>(f)), {});
+        for (const char* esperado : {"Quinteva - Condiciones de la Combinación", "Quiniela Base",
+                                     "Porcentajes", "Reducida al 13", "Página 1"}) {
+            QVERIFY2(leido.find(esperado) != std::string::npos, esperado);
+        }
         visor->close();
     }
 
