@@ -110,6 +110,13 @@ std::span<const Subcomando> Subcomandos() {
          "para jugar.",
          {{"base", "pleno", "columnas", "semilla", "porcentajes", "jornada"}, {}},
          &PorcentajesCmd},
+        {"refundir",
+         "refundir SALIDA.txt A.uxd B.uxd ... [--estructura continuo|separadores|columna] "
+         "[--semilla S] [--json]",
+         "\"Refundir combinaciones\": las columnas que se juegan de varias Combinaciones de una "
+         "Jornada a un archivo de texto, sin repetidas y con el Pleno de la primera.",
+         {{"estructura", "semilla"}, {}},
+         &RefundirCmd},
         {"rapida-basica",
          "rapida-basica RUTA.uxd --base \"1X2 1 X 12 ...\" --pleno H-A --columnas N [--equis "
          "MIN-MAX] [--doses ...] [--variantes ...] [--interrupciones ...] "

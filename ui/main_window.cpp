@@ -285,8 +285,9 @@ void VentanaPrincipal::CrearMenus() {
 
     QMenu* herramientas = menuBar()->addMenu(QStringLiteral("&Herramientas"));
     herramientas->setObjectName(QStringLiteral("MenuHerramientas"));
-    Accion(herramientas, QStringLiteral("&Refundir Combinaciones"),
-           QStringLiteral("AccionRefundir"), false);
+    connect(Accion(herramientas, QStringLiteral("&Refundir Combinaciones"),
+                   QStringLiteral("AccionRefundir")),
+            &QAction::triggered, this, &VentanaPrincipal::RefundirCombinaciones);
     connect(
         Accion(herramientas, QStringLiteral("Importar &archivo"), QStringLiteral("AccionImportar")),
         &QAction::triggered, this, &VentanaPrincipal::ImportarArchivo);

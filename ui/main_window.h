@@ -143,6 +143,8 @@ class VentanaPrincipal : public QMainWindow {
     // "Generar Quin. Básica": la ventana de los límites opcionales y su "&Generar" (condiciones,
     // generar, guardar y ajustar al número pedido).
     void AbrirRapidaBasica();
+    // "&Refundir Combinaciones": varias Combinaciones guardadas a un archivo de texto.
+    void RefundirCombinaciones();
     // "Importar &archivo": listas de columnas hechas fuera, impresas o en archivo oficial.
     void ImportarArchivo();
     void EliminarManual();

@@ -11,6 +11,7 @@
 #include "engine/pricing.h"
 #include "ui/conditions_page.h"
 #include "ui/main_window.h"
+#include "ui/merge_window.h"
 #include "ui/percentages_window.h"
 #include "ui/qt_text.h"
 #include "ui/quick_basic_window.h"
@@ -67,6 +68,11 @@ void VentanaPrincipal::MuyReducida(int nivel) {
             if (muyReducida_) muyReducida_->close();
         });
     });
+}
+
+void VentanaPrincipal::RefundirCombinaciones() {
+    const auto carpeta = comb_.ruta.empty() ? s_.carpetaTrabajo : comb_.ruta.parent_path();
+    AbrirVentana(new VentanaRefundir(s_.dialogo, azar_, carpeta, this));
 }
 
 void VentanaPrincipal::AbrirPorcentajes() {

@@ -7,6 +7,7 @@
 #include <fstream>
 #include <set>
 
+#include "builders/merge_combinations.h"
 #include "outputs/played_set.h"
 #include "tests/cli/cli_runner.h"
 #include "tests/support/temp_folder.h"
@@ -202,6 +203,50 @@ TEST(CliInformeCondiciones, ElPdfLlevaElResumenLaBaseYSoloLasFamiliasActivas) {
     const Salida falta = EjecutarCli("informe-condiciones '" + (trabajo / "No.uxd").string() +
                                      "' --pdf '" + pdf.string() + "'" + carpeta);
     EXPECT_EQ(falta.codigo, 1);
+}
+
+}  // namespace
+}  // namespace quinteva::pruebas
+
+namespace quinteva::pruebas {
+namespace {
+
+TEST(CliRefundir, DosCombinacionesAUnTextoSinRepetidas) {
+    CarpetaTemporal trabajo;
+    const std::string carpeta = " --carpeta '" + trabajo.Ruta().string() + "'";
+    // Dos Combinaciones de la Jornada 4 que comparten columnas.
+    for (const char* nombre : {"A", "B"}) {
+        ASSERT_EQ(
+            EjecutarCli("rapida-basica '" + (trabajo / (std::string(nombre) + ".uxd")).string() +
+                        "' --base \"1X2 1X2 1 1 1 1 1 1 1 1 1 1 1 1\" --pleno 1-0 "
+                        "--columnas 8 --semilla " +
+                        (nombre[0] == 'A' ? "1" : "2") + " --jornada 4" + carpeta)
+                .codigo,
+            0);
+    }
+    const auto salida = trabajo / "Juntas.txt";
+    const Salida s = EjecutarCli(
+        "refundir '" + salida.string() + "' '" + (trabajo / "A.uxd").string() + "' '" +
+        (trabajo / "B.uxd").string() + "' --estructura continuo --semilla 3 --json" + carpeta);
+    ASSERT_EQ(s.codigo, 0) << s.errores;
+    // 8 de las 9 columnas de la base en cada una (semillas fijas): entre las dos, las 9, que dejan
+    // un boleto de una y piden una al azar.
+    EXPECT_EQ(s.salida, "{\"Columnas\": 10, \"Repetidas\": 7, \"Agregadas\": 1}\n");
+    EXPECT_EQ(std::filesystem::file_size(salida), 10U * 16U);
+    EXPECT_EQ(s.errores.find(std::string(builders::kMsgRefundirLargo)), 0U);
+    // Una Combinación de otra Jornada: su mensaje y código 1.
+    ASSERT_EQ(EjecutarCli("rapida-basica '" + (trabajo / "C.uxd").string() +
+                          "' --base \"1X2 1X2 1 1 1 1 1 1 1 1 1 1 1 1\" --pleno 1-0 --columnas 8 "
+                          "--jornada 5" +
+                          carpeta)
+                  .codigo,
+              0);
+    const Salida otra =
+        EjecutarCli("refundir '" + salida.string() + "' '" + (trabajo / "A.uxd").string() + "' '" +
+                    (trabajo / "C.uxd").string() + "'" + carpeta);
+    EXPECT_EQ(otra.codigo, 1);
+    EXPECT_NE(otra.errores.find(std::string(builders::kMsgOtraJornada)), std::string::npos);
+    EXPECT_EQ(EjecutarCli("refundir '" + salida.string() + "'" + carpeta).codigo, 2);
 }
 
 }  // namespace

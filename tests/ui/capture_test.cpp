@@ -1,5 +1,6 @@
 #include <QAction>
 #include <QCheckBox>
+#include <QComboBox>
 #include <QDir>
 #include <QImage>
 #include <QLineEdit>
@@ -31,9 +32,11 @@
 #include "ui/league_results_window.h"
 #include "ui/league_table_window.h"
 #include "ui/located_columns_window.h"
+#include "ui/merge_window.h"
 #include "ui/official_file_window.h"
 #include "ui/options_window.h"
 #include "ui/paper_print_window.h"
+#include "ui/percentages_window.h"
 #include "ui/pools_results_window.h"
 #include "ui/pools_slip_window.h"
 #include "ui/pools_view_window.h"
@@ -41,6 +44,7 @@
 #include "ui/printer_select_window.h"
 #include "ui/printing.h"
 #include "ui/program_update_window.h"
+#include "ui/quick_basic_window.h"
 #include "ui/remove_columns_window.h"
 #include "ui/report_viewer.h"
 #include "ui/report_windows.h"
@@ -315,6 +319,56 @@ class PruebaCapturas : public QObject {
         QVERIFY(ventana != nullptr);
         Capturar(*ventana, QStringLiteral("ventana_muy_reducida"));
         Capturar(*v, QStringLiteral("ventana_principal_con_muy_reducida"));
+    }
+
+    void VentanasDePorcentajesYRapidaBasica() {
+        pruebas::Instalacion inst;
+        auto v = inst.Ventana();
+        pruebas::ElegirJornada(*v, 25);
+        pruebas::BaseDeEjemplo(*v);
+        inst.dialogo.Responder(std::optional<std::filesystem::path>(inst.documentos / "R.uxd"));
+        pruebas::Pulsar(*v, "BotonPorcentajes");
+        auto* porcentajes = Hijo<ui::VentanaPorcentajes>(*v, "VentanaPorcentajes");
+        auto* rejilla = Hijo<QTableWidget>(*porcentajes, "RejillaPorcentajes");
+        rejilla->setFocus();
+        rejilla->setCurrentCell(2, 0);
+        QTest::keyClicks(rejilla, QStringLiteral("45"));
+        QTest::keyClicks(Hijo<QLineEdit>(*porcentajes, "CajaNumeroColumnas"), QStringLiteral("24"));
+        Capturar(*porcentajes, QStringLiteral("ventana_quiniela_por_porcentajes"));
+        porcentajes->close();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        pruebas::Pulsar(*v, "BotonBasica");
+        auto* basica = Hijo<ui::VentanaRapidaBasica>(*v, "VentanaRapidaBasica");
+        Hijo<QComboBox>(*basica, "MinimoBasica0")->setCurrentIndex(1);
+        Hijo<QCheckBox>(*basica, "MarcaBasica0")->setChecked(true);
+        QTest::keyClicks(Hijo<QLineEdit>(*basica, "CajaNumeroColumnas"), QStringLiteral("16"));
+        Capturar(*basica, QStringLiteral("ventana_quiniela_rapida_basica"));
+        basica->close();
+    }
+
+    void VentanaRefundir() {
+        pruebas::Instalacion inst;
+        auto v = pruebas::Guardada(inst, inst.documentos / "Refundir.uxd");
+        pruebas::Marcar(*v, "OpcionReducida");
+        auto* ventana = pruebas::AbrirDesdeMenu<ui::VentanaRefundir>(*v, "AccionRefundir");
+        inst.dialogo.Responder(std::optional<std::filesystem::path>(inst.documentos / "Todas.txt"));
+        pruebas::Pulsar(*ventana, "BotonArchivoRefundido");
+        inst.dialogo.Responder(
+            std::optional<std::filesystem::path>(inst.documentos / "Refundir.uxd"));
+        pruebas::Pulsar(*ventana, "BotonAnadirRefundir");
+        Capturar(*ventana, QStringLiteral("ventana_refundir_combinaciones"));
+        ventana->close();
+    }
+
+    void ResumenDeCondiciones() {
+        pruebas::Instalacion inst;
+        auto v = pruebas::Reducida(inst);
+        pruebas::Marcar(*v, "OpcionReducida");
+        auto* visor = pruebas::AbrirDesdeMenu<ui::VentanaVisor>(*v, "AccionResumen");
+        Capturar(*visor, QStringLiteral("ventana_resumen_condiciones"));
+        pruebas::Pulsar(*visor, "BotonImprimir");
+        CapturarImpresion(inst.impresas.back(), QStringLiteral("impresion_resumen_condiciones"));
+        visor->close();
     }
 
     void VentanaPonderar() {
