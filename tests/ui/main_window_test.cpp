@@ -78,7 +78,9 @@ class PruebaVentanaPrincipal : public QObject {
         QVERIFY(Hijo<QAction>(*v, "AccionEstadisticas")->isEnabled());
         QVERIFY(Hijo<QAction>(*v, "AccionActualizacionInternet")->isEnabled());
         QVERIFY(Hijo<QAction>(*v, "AccionActualizacion")->isEnabled());
-        QVERIFY(!Hijo<QAction>(*v, "AccionRefundir")->isEnabled());
+        QVERIFY(Hijo<QAction>(*v, "AccionRefundir")->isEnabled());
+        QVERIFY(Hijo<QAction>(*v, "AccionResumen")->isEnabled());
+        QVERIFY(!Hijo<QAction>(*v, "AccionCrearPena")->isEnabled());
         QVERIFY(!Hijo<QAction>(*v, "AccionGuardar")->isEnabled());
         QCOMPARE(Hijo<QAction>(*v, "AccionGuardarComo")->text(), QStringLiteral("G&uardar como"));
         QVERIFY(!Hijo<QAction>(*v, "AccionReciente1")->isVisible());
