@@ -142,6 +142,27 @@ TEST(CliRapidaBasica, LasFilasALasCondicionesYAjustadaAlNumero) {
     }
 }
 
+TEST(CliRapidaBasica, SinFilasNingunaCondicionYElAjusteTomaDelDesarrolloEntero) {
+    CarpetaTemporal trabajo;
+    const std::string carpeta = " --carpeta '" + trabajo.Ruta().string() + "'";
+    const auto uxd = trabajo / "Libre.uxd";
+    const Salida s =
+        EjecutarCli("rapida-basica '" + uxd.string() +
+                    "' --base \"1X2 1X2 1X2 1 1 1 1 1 1 1 1 1 1 1\" --pleno 1-0 --columnas 16 "
+                    "--semilla 4 --json" +
+                    carpeta);
+    ASSERT_EQ(s.codigo, 0) << s.errores;
+    EXPECT_EQ(s.salida,
+              "{\"NumCondiciones\": 0, \"TotalGeneradas\": 27, \"ActivasGeneradas\": 16, "
+              "\"Jugada\": \"cnd\"}\n");
+    // Todo el desarrollo (27) menos las 11 que quitó el ajuste: ninguna fuera de la base.
+    const auto todas = outputs::LeerColumnas(trabajo / "Libre.cnd", false);
+    EXPECT_EQ(todas.size(), 27U);
+    for (const auto& r : todas) {
+        EXPECT_EQ(engine::TextoDeColumna(r.columna).substr(3), std::string(11, '1'));
+    }
+}
+
 TEST(CliRapidaBasica, UnaFilaFueraDeSuRangoOMinimoSobreMaximo) {
     CarpetaTemporal trabajo;
     const std::string carpeta = " --carpeta '" + trabajo.Ruta().string() + "'";

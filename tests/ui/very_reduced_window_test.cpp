@@ -1,5 +1,6 @@
 // "Quiniela muy reducida": la ventana junto a la base, su fila de la tabla y "Generar" de un paso
 // hasta la página Boletos con las reducidas guardadas.
+#include <QCheckBox>
 #include <QRadioButton>
 #include <QtTest>
 
@@ -57,6 +58,25 @@ class PruebaMuyReducida : public QObject {
         QCOMPARE(outputs::LeerJuegoJugado(ruta).juego, std::string("red"));
         QVERIFY(fs::exists(inst.documentos / "MuyReducida.red"));
         QTRY_VERIFY(abierta.isNull() || !abierta->isVisible());
+    }
+
+    void UnaCondicionPuestaConLaVentanaAbiertaSeRehusaAlPulsar() {
+        pruebas::Instalacion inst;
+        auto v = inst.Ventana();
+        pruebas::ElegirJornada(*v, 25);
+        pruebas::BaseDeEjemplo(*v);
+        inst.dialogo.Responder(std::optional<fs::path>(inst.documentos / "Cond.uxd"));
+        auto* ventana = Abrir(*v);
+        // La casilla de Generales con la ventana abierta: "Generar" sigue habilitado.
+        pruebas::Pagina(*v, ui::kCondicion);
+        Hijo<QCheckBox>(*v, QStringLiteral("Casilla0"))->click();
+        auto* generar = Hijo<QPushButton>(*ventana, QStringLiteral("BotonGenerarMuyReducida"));
+        QVERIFY(generar->isEnabled());
+        QTest::mouseClick(generar, Qt::LeftButton);
+        QCOMPARE(pruebas::Dichos(inst.dialogo).back(), std::string(builders::kMsgHayCondiciones));
+        QVERIFY(!v->Trabajo().EnCurso());
+        QCOMPARE(v->Combinacion().totalGeneradas, 0);
+        ventana->close();
     }
 
     void ConUnaBaseLargaNoALaPreguntaNoSeTocaNada() {
