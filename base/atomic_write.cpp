@@ -45,4 +45,23 @@ void EscribirAtomico(const std::filesystem::path& ruta, std::string_view conteni
     Reemplazar(temporal, ruta);
 }
 
+void CopiarAtomico(const std::filesystem::path& origen, const std::filesystem::path& ruta,
+                   std::uintmax_t bytes) {
+    const auto temporal = RutaTemporalJunto(ruta);
+    std::error_code error;
+    std::filesystem::copy_file(origen, temporal, std::filesystem::copy_options::overwrite_existing,
+                               error);
+    if (!error) {
+        const auto copiados = std::filesystem::file_size(temporal, error);
+        if (!error && copiados != bytes) std::filesystem::resize_file(temporal, bytes, error);
+    }
+    if (error) {
+        std::error_code ignorado;
+        std::filesystem::remove(temporal, ignorado);
+        errno = error.value();
+        FalloDeArchivo(temporal);
+    }
+    Reemplazar(temporal, ruta);
+}
+
 }  // namespace quinteva::base

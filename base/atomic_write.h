@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <filesystem>
 #include <string_view>
 
@@ -8,6 +9,11 @@ namespace quinteva::base {
 // Escribe el archivo entero en uno temporal a su lado y lo renombra encima: si algo falla a
 // mitad (disco lleno, corte), el archivo anterior del usuario sigue intacto.
 void EscribirAtomico(const std::filesystem::path& ruta, std::string_view contenido);
+
+// Copia los primeros bytes de origen (que los tiene) a ruta de la misma manera: por un temporal a
+// su lado, que el sistema copia sin pasar por la memoria del programa, y un renombrado.
+void CopiarAtomico(const std::filesystem::path& origen, const std::filesystem::path& ruta,
+                   std::uintmax_t bytes);
 
 // Ruta temporal al lado de la ruta dada, para quien escribe por su cuenta y renombra después.
 std::filesystem::path RutaTemporalJunto(const std::filesystem::path& ruta);

@@ -1,6 +1,8 @@
 #include "builders/reduction_tables.h"
 
 #include <algorithm>
+#include <array>
+#include <span>
 #include <sstream>
 
 #include "base/error.h"
@@ -63,6 +65,30 @@ char SignoDeDoble(char fila, int clase) {
     if (clase == 2 && fila == 'X') return '2';
     if (clase == 3 && fila == '1') return '2';
     return fila;
+}
+
+// La cifra de base 3 de cada byte de un registro: 0, 1, 2 para "1", "X", "2"; -1 para lo demás.
+constexpr std::array<std::int8_t, 256> kCifraDeByte = [] {
+    std::array<std::int8_t, 256> cifras{};
+    cifras.fill(-1);
+    cifras['1'] = 0;
+    cifras['X'] = 1;
+    cifras['2'] = 2;
+    return cifras;
+}();
+
+// El código de base 3 de la proyección de un registro en esos partidos, sin saltos por signo
+// (la reducción lo calcula para cada columna); -1 si alguno no es un signo.
+std::int32_t CodigoDeRegistro(std::span<const base::Byte> registro,
+                              const std::vector<std::size_t>& fijos) {
+    std::int32_t codigo = 0;
+    int invalido = 0;
+    for (const std::size_t p : fijos) {
+        const int cifra = kCifraDeByte[registro[p]];
+        invalido |= cifra;
+        codigo = codigo * 3 + cifra;
+    }
+    return invalido < 0 ? -1 : codigo;
 }
 
 }  // namespace
@@ -198,8 +224,7 @@ std::int32_t FiltrarPorPatrones(const std::vector<std::string>& patrones,
     std::int32_t numero = 0;
     for (auto registro = cmb.Siguiente(); !registro.empty(); registro = cmb.Siguiente()) {
         ++numero;
-        const std::int32_t c =
-            codigo([&](std::size_t p) { return static_cast<char>(registro[p]); });
+        const std::int32_t c = CodigoDeRegistro(registro, fijos);
         if (!patrones.empty() && c >= 0 && permitidos[static_cast<std::size_t>(c)]) {
             std::copy(registro.begin(), registro.end(), salida.begin());
             salida[16] = static_cast<base::Byte>(engine::kActiva);

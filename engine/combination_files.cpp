@@ -201,18 +201,14 @@ std::vector<Byte> LeerTodo(const std::filesystem::path& ruta) {
 void CopiarRegistros(const std::filesystem::path& origen, std::int32_t registros,
                      const std::filesystem::path& destino) {
     const auto bytes = static_cast<std::uintmax_t>(registros) * RegistroColumna::kLongitud;
-    std::string contenido;
-    if (bytes > 0) {
-        if (!std::filesystem::exists(origen) || Longitud(origen) < bytes) {
-            throw base::Error("Faltan columnas en " + origen.filename().string());
-        }
-        std::ifstream f(origen, std::ios::binary);
-        contenido.resize(bytes);
-        if (!f.read(contenido.data(), static_cast<std::streamsize>(bytes))) {
-            throw base::Error("No se pudo leer el archivo " + origen.string());
-        }
+    if (bytes == 0) {
+        base::EscribirAtomico(destino, {});
+        return;
     }
-    base::EscribirAtomico(destino, contenido);
+    if (!std::filesystem::exists(origen) || Longitud(origen) < bytes) {
+        throw base::Error("Faltan columnas en " + origen.filename().string());
+    }
+    base::CopiarAtomico(origen, destino, bytes);
 }
 
 // Precio de la primera cuenta mayor que 0 entre al 13, al 12, al 11, al 10 y "Condicionada".
