@@ -11,6 +11,7 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScreen>
 #include <QScrollArea>
 #include <QStackedWidget>
 #include <QStatusBar>
@@ -18,6 +19,7 @@
 #include <QTableWidget>
 #include <QToolBar>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <cmath>
 
 #include "base/error.h"
@@ -193,8 +195,13 @@ void VentanaPrincipal::AbrirVentana(QDialog* ventana) {
     const auto twips = [this](int t) { return t * logicalDpiX() / 1440; };
     ventana->setAttribute(Qt::WA_DeleteOnClose);
     ventana->setWindowModality(Qt::WindowModal);
-    ventana->move(frameGeometry().left() + twips(4800),
-                  geometry().top() + menuBar()->height() + twips(600));
+    // Sin salirse de la pantalla: una ventana alta sube lo que haga falta.
+    const QRect pantalla = screen()->availableGeometry();
+    const QSize tamano = ventana->sizeHint().expandedTo(ventana->size());
+    ventana->move(std::min(frameGeometry().left() + twips(4800),
+                           std::max(pantalla.left(), pantalla.right() - tamano.width())),
+                  std::min(geometry().top() + menuBar()->height() + twips(600),
+                           std::max(pantalla.top(), pantalla.bottom() - tamano.height() - 40)));
     ventana->open();
 }
 

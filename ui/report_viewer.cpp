@@ -4,6 +4,8 @@
 #include <QPrintPreviewWidget>
 #include <QPrinter>
 #include <QPushButton>
+#include <QScreen>
+#include <algorithm>
 
 #include "outputs/pdf_save.h"
 #include "ui/season_window_parts.h"
@@ -44,7 +46,9 @@ VentanaVisor::VentanaVisor(Informe informe, base::Dialogo& dialogo, Imprimir imp
     connect(BotonVentana(this, botones, QStringLiteral("&Salir"), QStringLiteral("BotonSalir")),
             &QPushButton::clicked, this, &QDialog::close);
     caja->addLayout(botones);
-    resize(720, 820);
+    // Una página A4 a la vista, sin pasar de lo que cabe en la pantalla.
+    const QRect pantalla = screen()->availableGeometry();
+    resize(std::min(720, pantalla.width()), std::min(820, pantalla.height() * 4 / 5));
 }
 
 VentanaVisor::~VentanaVisor() = default;
