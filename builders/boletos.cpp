@@ -21,14 +21,14 @@ void EscribirJugada(const std::filesystem::path& uxd, Jugada jugada) {
     archivo.Cerrar();
 }
 
+}  // namespace
+
 engine::Columna ColumnaAlAzar(base::Azar& azar) {
     engine::Columna columna{};
     for (auto& signo : columna)
         signo = engine::kSignos[static_cast<std::size_t>(azar.Entero(0, 2))];
     return columna;
 }
-
-}  // namespace
 
 std::string_view CampoJugada(Jugada jugada) {
     return jugada == Jugada::Condicionada ? "cnd" : "red";

@@ -62,6 +62,13 @@ inline constexpr std::string_view kPreguntaAnadirManual =
     "Es preciso agregar una columna para completar el último boleto. Desea añadirla "
     "manualmente?";
 
+// El final de los asistentes de un paso, que dejan la Combinación en la página Boletos.
+inline constexpr std::string_view kMsgProcesoTerminado =
+    "Proceso terminado. Ya puede imprimir sus boletos";
+
+// Una columna al azar, sin mirar la base: cada signo Int(Rnd x 3) en el orden 1, X, 2.
+engine::Columna ColumnaAlAzar(base::Azar& azar);
+
 // AleatoriaCon y AleatoriaRed: una columna al azar, sin mirar la base. En el archivo guardado va
 // con el Pleno de su último registro y estado "0"; en el almacén, con tres blancos detrás de los
 // signos (sin Pleno ni estado), diferencia que es parte del comportamiento. Lanza base::Error,

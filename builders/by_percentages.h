@@ -24,8 +24,6 @@ inline constexpr std::string_view kMsgMuyElevado =
 inline constexpr std::string_view kPreguntaExcesivo =
     "El número de columnas solicitado puede ser excesivo para que con los porcentajes fijados se "
     "puedan encontrar en la combinación. Desea no obstante continuar?";
-inline constexpr std::string_view kMsgPorcentajesTerminada =
-    "Proceso terminado. Ya puede imprimir sus boletos";
 std::string MsgBoletoDeUnaColumna(std::int32_t columnas);
 std::string MsgNoSumanCien(int partido);
 std::string MsgSoloSePudieron(std::int32_t columnas);

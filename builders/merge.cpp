@@ -41,6 +41,12 @@ std::string RegistroTexto(const engine::Columna& columna, const engine::PlenoBas
     return registro;
 }
 
+void AnadirRegistroTexto(base::AnexadorRegistros& destino, const engine::Columna& columna,
+                         const engine::PlenoBase& pleno, EstructuraRefundido estructura) {
+    const std::string texto = RegistroTexto(columna, pleno, estructura);
+    destino.Anadir(std::span(reinterpret_cast<const base::Byte*>(texto.data()), texto.size()));
+}
+
 std::int32_t EscribirArchivoTxt(const std::filesystem::path& columnas,
                                 const engine::PlenoBase& pleno, EstructuraRefundido estructura,
                                 const std::filesystem::path& salida) {
@@ -57,9 +63,7 @@ std::int32_t EscribirArchivoTxt(const std::filesystem::path& columnas,
         for (std::int32_t n = 1; n <= origen.Cuenta(); ++n) {
             const RegistroColumna registro = origen.Leer(n);
             if (!registro.Activa()) continue;
-            const std::string texto = RegistroTexto(registro.columna, pleno, estructura);
-            destino.Anadir(
-                std::span(reinterpret_cast<const base::Byte*>(texto.data()), texto.size()));
+            AnadirRegistroTexto(destino, registro.columna, pleno, estructura);
             ++escritas;
         }
         destino.Cerrar();

@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include "base/dialog.h"
+#include "base/record_files.h"
 #include "engine/combination.h"
 
 namespace quinteva::builders {
@@ -24,6 +25,10 @@ std::size_t LongitudRegistroTexto(EstructuraRefundido estructura);
 // Una columna con su Pleno en la forma dada.
 std::string RegistroTexto(const engine::Columna& columna, const engine::PlenoBase& pleno,
                           EstructuraRefundido estructura);
+
+// La añade al final de un archivo de registros de texto de esa forma.
+void AnadirRegistroTexto(base::AnexadorRegistros& destino, const engine::Columna& columna,
+                         const engine::PlenoBase& pleno, EstructuraRefundido estructura);
 
 inline constexpr std::string_view kFiltroTxt = "Archivo de texto (*.txt)|*.txt|";
 inline constexpr std::string_view kPreguntaTxtExiste =

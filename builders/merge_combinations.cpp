@@ -7,14 +7,12 @@
 #include "base/error.h"
 #include "base/record_files.h"
 #include "base/text1252.h"
+#include "builders/boletos.h"
 #include "engine/combination_files.h"
 
 namespace quinteva::builders {
 
 namespace {
-
-// El boleto lleva 8 columnas; el último no debe quedar con una.
-constexpr std::size_t kColumnasPorBoleto = 8;
 
 // El temporal de las repetidas: el nombre sin sus tres últimos caracteres, más "bak".
 std::filesystem::path RutaBak(const std::filesystem::path& salida) {
@@ -24,14 +22,6 @@ std::filesystem::path RutaBak(const std::filesystem::path& salida) {
 }
 
 std::filesystem::path SinExtension(std::filesystem::path ruta) { return ruta.replace_extension(); }
-
-// Una columna al azar: cada signo Int(Rnd x 3 + 1), 1 "1", 2 "X", 3 "2".
-engine::Columna ColumnaAlAzar(base::Azar& azar) {
-    engine::Columna columna{};
-    for (auto& signo : columna)
-        signo = engine::kSignos[static_cast<std::size_t>(azar.Entero(1, 3) - 1)];
-    return columna;
-}
 
 // Las activas de todas las filas con el Pleno de la primera, que se pregunta; nada si el usuario
 // dice que no.
@@ -72,10 +62,7 @@ void Escribir(const std::vector<engine::Columna>& columnas, const engine::PlenoB
     const auto bak = RutaBak(salida);
     std::filesystem::remove(bak);
     base::AnexadorRegistros destino(bak, LongitudRegistroTexto(estructura));
-    for (const engine::Columna& c : columnas) {
-        const std::string texto = RegistroTexto(c, pleno, estructura);
-        destino.Anadir(std::span(reinterpret_cast<const base::Byte*>(texto.data()), texto.size()));
-    }
+    for (const engine::Columna& c : columnas) AnadirRegistroTexto(destino, c, pleno, estructura);
     destino.Cerrar();
     base::Reemplazar(bak, salida);
 }
@@ -164,7 +151,7 @@ std::optional<Refusion> Refundir(const std::vector<CombinacionARefundir>& filas,
         if (!columnas) return std::nullopt;
         Refusion r;
         r.repetidas = QuitarRepetidas(*columnas);
-        if (columnas->size() % kColumnasPorBoleto == 1) {
+        if (UnaSolaEnElUltimoBoleto(static_cast<std::int64_t>(columnas->size()))) {
             columnas->push_back(ColumnaAlAzar(azar));
             r.agregadas = 1;
         }

@@ -18,8 +18,6 @@ inline constexpr std::string_view kMsgHayCondiciones =
 inline constexpr std::string_view kPreguntaProcesoLargo =
     "El proceso puede ser largo, desea continuar?";
 inline constexpr std::string_view kMsgCiertoTiempo = "El proceso puede durar cierto tiempo";
-inline constexpr std::string_view kMsgMuyReducidaTerminada =
-    "Proceso terminado. Ya puede imprimir sus boletos";
 
 // Fijar: la fila de la "Tabla de reducciones" cuyos Triples y Dobles ocultos son los de la base;
 // nada si la base no tiene esa forma (sin dobles ni triples, o "4 Dobles"). Solo con ella se

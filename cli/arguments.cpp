@@ -1,5 +1,6 @@
 #include "cli/arguments.h"
 
+#include <charconv>
 #include <sstream>
 
 #include "base/text1252.h"
@@ -52,6 +53,18 @@ int Argumentos::Division(std::string_view uso) const {
         throw ErrorDeUso{"Uso: quinteva-cli " + std::string(uso)};
     }
     return division == "1" ? 1 : 2;
+}
+
+std::optional<std::uint64_t> Argumentos::Semilla() const {
+    const auto texto = Valor("semilla");
+    if (!texto) return std::nullopt;
+    std::uint64_t semilla = 0;
+    const auto [fin, error] =
+        std::from_chars(texto->data(), texto->data() + texto->size(), semilla);
+    if (texto->empty() || error != std::errc{} || fin != texto->data() + texto->size()) {
+        throw ErrorDeUso{"--semilla es un número entero: " + *texto};
+    }
+    return semilla;
 }
 
 std::filesystem::path Argumentos::CarpetaTrabajo() const {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <filesystem>
 #include <map>
 #include <optional>
@@ -37,6 +38,9 @@ class Argumentos {
     std::string Exigir(std::string_view opcion, std::string_view uso) const;
     // --division, que no puede faltar: 1 o 2.
     int Division(std::string_view uso) const;
+
+    // --semilla del azar: un entero sin signo; nada si no se dio. Mal escrita, ErrorDeUso.
+    std::optional<std::uint64_t> Semilla() const;
 
     // La carpeta de trabajo: --carpeta, si no QUINTEVA_CARPETA, si no la del usuario.
     std::filesystem::path CarpetaTrabajo() const;

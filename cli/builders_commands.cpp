@@ -92,16 +92,6 @@ builders::Porcentajes LeerPorcentajes(const std::string& texto, const engine::Co
     return p;
 }
 
-std::uint64_t Semilla(const Argumentos& a, std::string_view uso) {
-    const std::string texto = a.Exigir("semilla", uso);
-    std::uint64_t semilla = 0;
-    const auto [fin, error] = std::from_chars(texto.data(), texto.data() + texto.size(), semilla);
-    if (error != std::errc{} || fin != texto.data() + texto.size()) {
-        throw ErrorDeUso{"--semilla es un número entero: " + texto};
-    }
-    return semilla;
-}
-
 // Una cifra de una fila de la rápida Básica, dentro de lo que ofrece la fila; vacía, nada.
 std::optional<int> CifraDeFila(const std::string& texto, std::pair<int, int> rango,
                                std::string_view opcion) {
@@ -148,7 +138,9 @@ int PorcentajesCmd(const Argumentos& a, std::ostream& salida) {
     engine::Combinacion c = CombinacionNueva(a, kUsoPorcentajes);
     const builders::Porcentajes p = LeerPorcentajes(a.Exigir("porcentajes", kUsoPorcentajes), c);
     const std::string columnas = a.Exigir("columnas", kUsoPorcentajes);
-    base::AzarEstandar azar(Semilla(a, kUsoPorcentajes));
+    const auto semilla = a.Semilla();
+    if (!semilla) throw ErrorDeUso{"Uso: quinteva-cli " + std::string(kUsoPorcentajes)};
+    base::AzarEstandar azar(*semilla);
     DialogoDeOrdenes dialogo(std::cerr);
     const CarpetaDeAlmacenes almacenes(a);
     const auto entregadas =
@@ -156,7 +148,7 @@ int PorcentajesCmd(const Argumentos& a, std::ostream& salida) {
     if (!entregadas) return 1;
     base::AjustesIni ajustes(a.CarpetaTrabajo());
     GuardarParaJugar(c, almacenes.Ruta(), ajustes, builders::Jugada::Condicionada, dialogo);
-    dialogo.Mensaje(builders::kMsgPorcentajesTerminada, base::Icono::Informacion);
+    dialogo.Mensaje(builders::kMsgProcesoTerminado, base::Icono::Informacion);
     if (a.Json()) {
         salida << "{\"TotalGeneradas\": " << c.totalGeneradas
                << ", \"ValorPorcentajes\": " << c.valorPorcentajes
@@ -191,11 +183,10 @@ int RapidaBasicaCmd(const Argumentos& a, std::ostream& salida) {
         engine::Guardar(c, almacenes.Ruta(), ajustes);
     }
     builders::MarcarJugada(c, builders::Jugada::Condicionada);
-    base::AzarEstandar azar(a.Valor("semilla") ? Semilla(a, kUsoBasica)
-                                               : base::AzarEstandar::SemillaDelReloj());
+    base::AzarEstandar azar(a.Semilla().value_or(base::AzarEstandar::SemillaDelReloj()));
     builders::Ajustar(c, std::to_string(*pedidas), {almacenes.Ruta(), ajustes, dialogo, azar},
                       progreso);
-    dialogo.Mensaje(builders::kMsgPorcentajesTerminada, base::Icono::Informacion);
+    dialogo.Mensaje(builders::kMsgProcesoTerminado, base::Icono::Informacion);
     if (a.Json()) {
         salida << "{\"NumCondiciones\": " << c.numCondiciones
                << ", \"TotalGeneradas\": " << c.totalGeneradas
@@ -232,7 +223,7 @@ int MuyReducidaCmd(const Argumentos& a, std::ostream& salida) {
         throw base::Error("No hay reducción por tablas para esta base al " + std::to_string(nivel));
     }
     GuardarParaJugar(c, almacenes.Ruta(), ajustes, builders::Jugada::Reducida, dialogo);
-    dialogo.Mensaje(builders::kMsgMuyReducidaTerminada, base::Icono::Informacion);
+    dialogo.Mensaje(builders::kMsgProcesoTerminado, base::Icono::Informacion);
     if (a.Json()) {
         salida << "{\"NivelReducida\": " << int{c.nivelReducida}
                << ", \"TotalGeneradas\": " << c.totalGeneradas

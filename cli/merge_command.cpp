@@ -22,16 +22,6 @@ builders::EstructuraRefundido Estructura(const Argumentos& a) {
     throw ErrorDeUso{"--estructura es continuo, separadores o columna"};
 }
 
-std::uint64_t Semilla(const Argumentos& a) {
-    const auto texto = a.Valor("semilla");
-    if (!texto) return base::AzarEstandar::SemillaDelReloj();
-    try {
-        return std::stoull(*texto);
-    } catch (const std::exception&) {
-        throw ErrorDeUso{"--semilla es un número entero: " + *texto};
-    }
-}
-
 }  // namespace
 
 int RefundirCmd(const Argumentos& a, std::ostream& salida) {
@@ -47,7 +37,7 @@ int RefundirCmd(const Argumentos& a, std::ostream& salida) {
         if (!fila) return 1;
         filas.push_back(*fila);
     }
-    base::AzarEstandar azar(Semilla(a));
+    base::AzarEstandar azar(a.Semilla().value_or(base::AzarEstandar::SemillaDelReloj()));
     const auto refusion = builders::Refundir(filas, archivo, estructura, azar, dialogo);
     if (!refusion) return 1;
     if (a.Json()) {

@@ -64,7 +64,7 @@ void VentanaPrincipal::MuyReducida(int nivel) {
             IrAPagina(kBoletos);
             ElegirJuego(builders::Jugada::Reducida);
             IrAPagina(kBoletos);
-            s_.dialogo.Mensaje(builders::kMsgMuyReducidaTerminada);
+            s_.dialogo.Mensaje(builders::kMsgProcesoTerminado);
             if (muyReducida_) muyReducida_->close();
         });
     });
@@ -109,7 +109,7 @@ void VentanaPrincipal::PorPorcentajes(VentanaPorcentajes* ventana) {
         return;
     }
     ventana->Trabajando(false);
-    s_.dialogo.Mensaje(builders::kMsgPorcentajesTerminada);
+    s_.dialogo.Mensaje(builders::kMsgProcesoTerminado);
     ventana->close();
 }
 
@@ -173,7 +173,7 @@ bool VentanaPrincipal::BasicaGenerada(const QPointer<VentanaRapidaBasica>& venta
     PasoDeAsistente(&VentanaPrincipal::Ajustar, [this, ventana](bool) {
         boletos_->campoAjustar->clear();
         if (ventana) ventana->Trabajando(false);
-        s_.dialogo.Mensaje(builders::kMsgPorcentajesTerminada);
+        s_.dialogo.Mensaje(builders::kMsgProcesoTerminado);
         if (ventana) ventana->close();
     });
     return true;

@@ -9,6 +9,7 @@
 #include "base/error.h"
 #include "engine/pricing.h"
 #include "tests/builders/boletos_fixture.h"
+#include "tests/support/file_bytes.h"
 
 namespace quinteva::builders {
 namespace {
@@ -16,11 +17,6 @@ namespace {
 using pruebas::BancoBoletos;
 using pruebas::LeerRegistros;
 using pruebas::Registro;
-
-std::string Bytes(const std::filesystem::path& ruta) {
-    std::ifstream f(ruta, std::ios::binary);
-    return {std::istreambuf_iterator<char>(f), std::istreambuf_iterator<char>()};
-}
 
 TEST(ReglaBoleto, RechazaLosTotalesQueDejanUnaSolaColumnaEnElUltimo) {
     for (int t : {1, 9, 17, 25, 801}) EXPECT_TRUE(UnaSolaEnElUltimoBoleto(t)) << t;
@@ -64,9 +60,9 @@ TEST(ElegirJugada, EscribeElCampoDeLaCabeceraYNadaMas) {
     BancoBoletos b;
     b.Generadas(8);
     b.EscribirJugada("");
-    const std::string antes = Bytes(b.comb.ruta);
+    const std::string antes = pruebas::BytesDeArchivo(b.comb.ruta);
     ElegirJugada(b.comb, Jugada::Condicionada, b.Entorno(), [] { return false; });
-    const std::string despues = Bytes(b.comb.ruta);
+    const std::string despues = pruebas::BytesDeArchivo(b.comb.ruta);
     ASSERT_EQ(despues.size(), 5189U);
     EXPECT_EQ(despues.substr(16, 3), "cnd");
     EXPECT_EQ(despues.substr(0, 16), antes.substr(0, 16));
@@ -152,11 +148,11 @@ TEST(Aleatoria, LaReducidaMuestraCuentaYPrecioEnLaFilaDeSuNivel) {
 
 TEST(EntradaMala, SinColumnasGuardadasNadaCambia) {
     BancoBoletos b;
-    const std::string antes = Bytes(b.comb.ruta);
+    const std::string antes = pruebas::BytesDeArchivo(b.comb.ruta);
     EXPECT_THROW(ElegirJugada(b.comb, Jugada::Condicionada, b.Entorno(), [] { return false; }),
                  base::Error);
     EXPECT_THROW(AleatoriaCon(b.comb, b.Entorno()), base::Error);
-    EXPECT_EQ(Bytes(b.comb.ruta), antes);
+    EXPECT_EQ(pruebas::BytesDeArchivo(b.comb.ruta), antes);
     EXPECT_FALSE(std::filesystem::exists(b.Guardado(Jugada::Condicionada)));
 }
 
@@ -170,7 +166,7 @@ TEST(EntradaMala, SinRedNoSeEligeLaReducida) {
     } catch (const base::Error& e) {
         EXPECT_NE(std::string(e.what()).find("J7.red"), std::string::npos) << e.what();
     }
-    EXPECT_EQ(Bytes(b.comb.ruta).substr(16, 3), "cnd");
+    EXPECT_EQ(pruebas::BytesDeArchivo(b.comb.ruta).substr(16, 3), "cnd");
     EXPECT_FALSE(std::filesystem::exists(b.Guardado(Jugada::Reducida)));
 }
 

@@ -7,17 +7,13 @@
 #include <iterator>
 
 #include "tests/builders/boletos_fixture.h"
+#include "tests/support/file_bytes.h"
 
 namespace quinteva::builders {
 namespace {
 
 using pruebas::BancoBoletos;
 using pruebas::Registro;
-
-std::string Bytes(const std::filesystem::path& ruta) {
-    std::ifstream f(ruta, std::ios::binary);
-    return {std::istreambuf_iterator<char>(f), std::istreambuf_iterator<char>()};
-}
 
 // Una Combinación guardada con las columnas dadas en su conjunto jugado.
 struct Guardada {
@@ -55,7 +51,8 @@ TEST(Refundir, LasActivasSinRepetidasConElPlenoDeLaPrimera) {
     EXPECT_EQ(r->columnas, 3);
     EXPECT_EQ(r->repetidas, 1);
     EXPECT_EQ(r->agregadas, 0);
-    EXPECT_EQ(Bytes(salida), "1X21X21X21X21X2M\r\n111111111111112M\r\nXXXXXXXXXXXXXX2M\r\n");
+    EXPECT_EQ(pruebas::BytesDeArchivo(salida),
+              "1X21X21X21X21X2M\r\n111111111111112M\r\nXXXXXXXXXXXXXX2M\r\n");
     EXPECT_EQ(dialogo.Textos(),
               (std::vector<std::string>{
                   std::string(kMsgRefundirLargo),
@@ -86,7 +83,7 @@ TEST(Refundir, NueveColumnasLlevanUnaAlAzarYSonDiez) {
               "Proceso terminado, la nueva combinación tiene 10 apuestas. Se han eliminado 0 "
               "columnas repetidas y se han agregado aleatóriamente 1 columnas para completar el "
               "último boleto.");
-    const std::string bytes = Bytes(salida);
+    const std::string bytes = pruebas::BytesDeArchivo(salida);
     ASSERT_EQ(bytes.size(), 10U * 16U);
     EXPECT_EQ(bytes.substr(0, 16), todas[0] + "10");
     // La añadida, con el Pleno de la refundición y signos 1, X o 2.
@@ -105,7 +102,7 @@ TEST(Refundir, ConNoAlPlenoSeCancelaYElArchivoQuedaVacio) {
     base::AzarEstandar azar(1);
     EXPECT_FALSE(Refundir(filas, salida, EstructuraRefundido::Separadores, azar, dialogo));
     EXPECT_EQ(dialogo.Textos().back(), kMsgProcesoCancelado);
-    EXPECT_EQ(Bytes(salida), "");
+    EXPECT_EQ(pruebas::BytesDeArchivo(salida), "");
 }
 
 TEST(Refundir, UnFalloAlEscribirEsProcesoAbortado) {
@@ -154,7 +151,7 @@ TEST(Refundir, ElArchivoQueYaExistePreguntaConNoPorDefecto) {
     pruebas::DialogoGuionado dialogo;
     dialogo.Responder(std::optional<std::filesystem::path>(ruta)).Responder(base::Respuesta::No);
     EXPECT_FALSE(ElegirArchivoRefundido(dialogo, carpeta.Ruta()));
-    EXPECT_EQ(Bytes(ruta), "mio");
+    EXPECT_EQ(pruebas::BytesDeArchivo(ruta), "mio");
     EXPECT_EQ(dialogo.PorDefecto(), std::vector<base::Respuesta>{base::Respuesta::No});
     dialogo.Responder(std::optional<std::filesystem::path>(ruta)).Responder(base::Respuesta::Si);
     EXPECT_EQ(ElegirArchivoRefundido(dialogo, carpeta.Ruta()), ruta);

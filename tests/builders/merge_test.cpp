@@ -8,17 +8,13 @@
 
 #include "base/error.h"
 #include "tests/builders/boletos_fixture.h"
+#include "tests/support/file_bytes.h"
 
 namespace quinteva::builders {
 namespace {
 
 using pruebas::BancoBoletos;
 using pruebas::Registro;
-
-std::string Bytes(const std::filesystem::path& ruta) {
-    std::ifstream f(ruta, std::ios::binary);
-    return {std::istreambuf_iterator<char>(f), std::istreambuf_iterator<char>()};
-}
 
 // Cuatro columnas, la segunda y la cuarta eliminadas; cada registro con su Pleno, distinto del
 // PlenoBase "0M", que es el que se escribe.
@@ -51,7 +47,7 @@ TEST(GenerarArchivoTxt, SoloActivasConElPlenoBaseEnCadaForma) {
         const auto salida = b.carpeta / "cols.txt";
         b.dialogo.Responder(std::optional<std::filesystem::path>(salida));
         EXPECT_EQ(GenerarArchivoTxt(b.comb, codigo, b.dialogo), 2);
-        EXPECT_EQ(Bytes(salida), esperado) << codigo;
+        EXPECT_EQ(pruebas::BytesDeArchivo(salida), esperado) << codigo;
         EXPECT_EQ(b.dialogo.Registro().at(0).tipo, "ArchivoParaGuardar");
         EXPECT_FALSE(std::filesystem::exists(b.carpeta / "cols.txt.nuevo"));
     }
@@ -64,7 +60,7 @@ TEST(GenerarArchivoTxt, LaReducidaSeLeeDelRed) {
     const auto salida = b.carpeta / "red.txt";
     b.dialogo.Responder(std::optional<std::filesystem::path>(salida));
     EXPECT_EQ(GenerarArchivoTxt(b.comb, 3, b.dialogo), 2);
-    EXPECT_EQ(Bytes(salida), "1X21X21X21X21X0M2222222222222X0M");
+    EXPECT_EQ(pruebas::BytesDeArchivo(salida), "1X21X21X21X21X0M2222222222222X0M");
 }
 
 TEST(GenerarArchivoTxt, CancelarRutaVaciaYSobrescribir) {
@@ -83,13 +79,13 @@ TEST(GenerarArchivoTxt, CancelarRutaVaciaYSobrescribir) {
     b.dialogo.Responder(std::optional<std::filesystem::path>(salida))
         .Responder(base::Respuesta::No);
     EXPECT_EQ(GenerarArchivoTxt(b.comb, 1, b.dialogo), std::nullopt);
-    EXPECT_EQ(Bytes(salida), "lo de antes");
+    EXPECT_EQ(pruebas::BytesDeArchivo(salida), "lo de antes");
     EXPECT_EQ(b.dialogo.Textos().back(), kPreguntaTxtExiste);
 
     b.dialogo.Responder(std::optional<std::filesystem::path>(salida))
         .Responder(base::Respuesta::Si);
     EXPECT_EQ(GenerarArchivoTxt(b.comb, 3, b.dialogo), 2);
-    EXPECT_EQ(Bytes(salida), "1X21X21X21X21X0M2222222222222X0M");
+    EXPECT_EQ(pruebas::BytesDeArchivo(salida), "1X21X21X21X21X0M2222222222222X0M");
 }
 
 TEST(GenerarArchivoTxt, SinJugadaElegidaOSinArchivoDeColumnas) {

@@ -12,6 +12,7 @@
 #include "engine/generation.h"
 #include "engine/reduction.h"
 #include "tests/engine/literal_filter.h"
+#include "tests/support/file_bytes.h"
 #include "tests/support/fnv.h"
 #include "tests/support/literal_cover.h"
 #include "tests/support/memory_settings.h"
@@ -45,11 +46,6 @@ SetCondiciones CondicionesDe(const QuinielaBase& base, int cual) {
     return c;
 }
 
-std::string Bytes(const std::filesystem::path& ruta) {
-    std::ifstream f(ruta, std::ios::binary);
-    return {std::istreambuf_iterator<char>(f), std::istreambuf_iterator<char>()};
-}
-
 // Una Combinación generada en su carpeta.
 struct Generacion {
     pruebas::CarpetaTemporal carpeta;
@@ -67,7 +63,7 @@ struct Generacion {
 
 Firma Generada(const QuinielaBase& base, const SetCondiciones& c) {
     const Generacion g(base, c);
-    return {g.comb.totalGeneradas, Fnv(Bytes(g.carpeta / "Cmb.tmp"))};
+    return {g.comb.totalGeneradas, Fnv(pruebas::BytesDeArchivo(g.carpeta / "Cmb.tmp"))};
 }
 
 // La misma firma con el recorrido literal: todas las columnas en orden y el filtro literal.
@@ -144,7 +140,7 @@ TEST(FirmaReduccion, IgualALaGuardada) {
         const auto n =
             ReducirConCondiciones(g.comb, g.carpeta.Ruta(), r.distancia, progreso, g.ajustes)
                 .reducidas;
-        const Firma f{n, Fnv(Bytes(g.carpeta / "Red.tmp"))};
+        const Firma f{n, Fnv(pruebas::BytesDeArchivo(g.carpeta / "Red.tmp"))};
         EXPECT_EQ(f, r.esperada) << r.caso << " al " << 14 - r.distancia << " " << f.columnas
                                  << std::hex << " 0x" << f.suma;
     }
@@ -154,7 +150,7 @@ TEST(FirmaReduccion, IgualALaGuardada) {
 TEST(FirmaReduccion, LaGuardadaEsLaDelRecubrimientoPorRondas) {
     for (const CasoReduccion& r : kReducciones) {
         const Generacion g = GeneracionDe(r);
-        const std::string cmb = Bytes(g.carpeta / "Cmb.tmp");
+        const std::string cmb = pruebas::BytesDeArchivo(g.carpeta / "Cmb.tmp");
         std::vector<std::string> columnas;
         for (std::size_t i = 0; i + RegistroColumna::kLongitud <= cmb.size();
              i += RegistroColumna::kLongitud) {

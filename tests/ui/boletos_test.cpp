@@ -16,6 +16,7 @@
 #include "engine/combination_files.h"
 #include "outputs/json_file.h"
 #include "outputs/played_set.h"
+#include "tests/support/file_bytes.h"
 #include "tests/ui/window_fixture.h"
 #include "ui/add_columns_window.h"
 #include "ui/bets_list_window.h"
@@ -52,11 +53,6 @@ int Activas(const Registros& registros) {
 
 std::string Signos(const engine::RegistroColumna& r) {
     return {r.columna.begin(), r.columna.end()};
-}
-
-std::string Bytes(const fs::path& ruta) {
-    std::ifstream f(ruta, std::ios::binary);
-    return {std::istreambuf_iterator<char>(f), std::istreambuf_iterator<char>()};
 }
 
 template <typename T>
@@ -309,17 +305,17 @@ class PruebaBoletos : public QObject {
                 if (r.estado == '0')
                     esperado += Signos(r) + "1M" + finales[static_cast<std::size_t>(codigo - 1)];
             }
-            QCOMPARE(Bytes(salida), esperado);
+            QCOMPARE(pruebas::BytesDeArchivo(salida), esperado);
         }
         // Ya existe: con No se deja como estaba; "&Cancelar" no pregunta nada.
         const fs::path primera = inst.documentos / "Forma1.txt";
-        const std::string antes = Bytes(primera);
+        const std::string antes = pruebas::BytesDeArchivo(primera);
         Pulsar(*v, "BotonArchivoTxt");
         inst.dialogo.Responder(std::optional<fs::path>(primera)).Responder(base::Respuesta::No);
         Pulsar(*Hijo<ui::VentanaTipoArchivo>(*v, "VentanaTipoArchivo"), "BotonAceptar");
         QCOMPARE(Dichos(inst.dialogo),
                  std::vector<std::string>{std::string(builders::kPreguntaTxtExiste)});
-        QCOMPARE(Bytes(primera), antes);
+        QCOMPARE(pruebas::BytesDeArchivo(primera), antes);
         EsperarCierre<ui::VentanaTipoArchivo>(*v, "VentanaTipoArchivo");
         const std::size_t marca = inst.dialogo.Registro().size();
         Pulsar(*v, "BotonArchivoTxt");

@@ -9,6 +9,7 @@
 #include <fstream>
 
 #include "engine/combination_files.h"
+#include "tests/support/file_bytes.h"
 #include "tests/ui/window_fixture.h"
 #include "ui/options_window.h"
 #include "ui/report_windows.h"
@@ -18,11 +19,6 @@ using pruebas::Hijo;
 namespace fs = std::filesystem;
 
 namespace {
-
-std::string Bytes(const fs::path& ruta) {
-    std::ifstream f(ruta, std::ios::binary);
-    return {std::istreambuf_iterator<char>(f), std::istreambuf_iterator<char>()};
-}
 
 // Las columnas de la base de ejemplo (1 y 2 dobles 1X, 3 y 4 triples, el resto "1") con como
 // mucho una "X" y, si se pide, como mucho 12 parejas "11": contadas a mano.
@@ -240,12 +236,12 @@ class PruebaVentanaPrincipal : public QObject {
         pruebas::Pagina(*v, ui::kGenerar);
         QTest::mouseClick(Hijo<QPushButton>(*v, "BotonGenerar"), Qt::LeftButton);
         pruebas::EsperarTrabajo(*v);
-        const std::string cmb = Bytes(inst.trabajo / "Cmb.tmp");
+        const std::string cmb = pruebas::BytesDeArchivo(inst.trabajo / "Cmb.tmp");
         QVERIFY(!cmb.empty());
         inst.dialogo.Responder(base::Respuesta::Cancelar);
         QVERIFY(!v->close());
         QVERIFY(v->isVisible());
-        QCOMPARE(Bytes(inst.trabajo / "Cmb.tmp"), cmb);
+        QCOMPARE(pruebas::BytesDeArchivo(inst.trabajo / "Cmb.tmp"), cmb);
         QCOMPARE(inst.dialogo.Textos(),
                  std::vector<std::string>{"Desea guardar la Quiniela actual?"});
         QVERIFY(fs::is_empty(inst.documentos.Ruta()));

@@ -9,6 +9,7 @@
 #include "builders/boletos.h"
 #include "builders/merge_combinations.h"
 #include "engine/combination_files.h"
+#include "tests/support/file_bytes.h"
 #include "tests/ui/window_fixture.h"
 #include "ui/merge_window.h"
 
@@ -38,11 +39,6 @@ void Guardar(const fs::path& uxd, int jornada, const std::vector<std::string>& c
     c.panel.condicionada = c.activasGeneradas;
     engine::Guardar(c, trabajo.Ruta(), ajustes);
     builders::MarcarJugada(c, builders::Jugada::Condicionada);
-}
-
-std::string Bytes(const fs::path& ruta) {
-    std::ifstream f(ruta, std::ios::binary);
-    return {std::istreambuf_iterator<char>(f), {}};
 }
 
 }  // namespace
@@ -81,7 +77,7 @@ class PruebaRefundir : public QObject {
         inst.dialogo.Responder(base::Respuesta::Si);
         const QPointer<ui::VentanaRefundir> abierta(ventana);
         pruebas::Pulsar(*ventana, "BotonRefundir");
-        QCOMPARE(Bytes(salida),
+        QCOMPARE(pruebas::BytesDeArchivo(salida),
                  std::string("1X21X21X21X21X2M\r111111111111112M\rXXXXXXXXXXXXXX2M\r"));
         QCOMPARE(pruebas::Dichos(inst.dialogo).back(),
                  std::string("Proceso terminado, la nueva combinación tiene 3 apuestas. Se han "

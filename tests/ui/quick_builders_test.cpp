@@ -6,6 +6,7 @@
 #include <QLineEdit>
 #include <QtTest>
 
+#include "builders/boletos.h"
 #include "builders/by_percentages.h"
 #include "builders/quick_basic.h"
 #include "outputs/played_set.h"
@@ -155,11 +156,11 @@ class PruebaRapidas : public QObject {
         pruebas::Pulsar(*ventana, "BotonGenerarPorcentajes");
         // Una repetida que la última pasada no puede rehacer deja el reparto corto, y se dice.
         const auto dichos = pruebas::Dichos(inst.dialogo, marca);
-        QCOMPARE(dichos.back(), std::string(builders::kMsgPorcentajesTerminada));
+        QCOMPARE(dichos.back(), std::string(builders::kMsgProcesoTerminado));
         if (dichos.size() > 1) {
             QCOMPARE(dichos, (std::vector<std::string>{
                                  builders::MsgSoloSePudieron(v->Combinacion().valorPorcentajes),
-                                 std::string(builders::kMsgPorcentajesTerminada)}));
+                                 std::string(builders::kMsgProcesoTerminado)}));
         }
         QTRY_VERIFY(abierta.isNull() || !abierta->isVisible());
         QCOMPARE(v->PaginaActual(), static_cast<int>(ui::kBoletos));
@@ -231,7 +232,7 @@ class PruebaRapidas : public QObject {
         pruebas::Pulsar(*ventana, "BotonGenerarBasica");
         QTRY_VERIFY_WITH_TIMEOUT(abierta.isNull() || !abierta->isVisible(), 60000);
         const auto dichos = pruebas::Dichos(inst.dialogo, marca);
-        QCOMPARE(dichos.back(), std::string(builders::kMsgPorcentajesTerminada));
+        QCOMPARE(dichos.back(), std::string(builders::kMsgProcesoTerminado));
         QVERIFY(inst.dialogo.GuionAgotado());
         QCOMPARE(v->Combinacion().numCondiciones, 1);
         QVERIFY(v->Combinacion().condiciones.casilla[0]);
@@ -273,8 +274,7 @@ class PruebaRapidas : public QObject {
         QCOMPARE(v->Combinacion().activasGeneradas, 16);
         QCOMPARE(outputs::LeerColumnas(inst.documentos / "Pocas.cnd", true).size(),
                  std::size_t{16});
-        QCOMPARE(pruebas::Dichos(inst.dialogo).back(),
-                 std::string(builders::kMsgPorcentajesTerminada));
+        QCOMPARE(pruebas::Dichos(inst.dialogo).back(), std::string(builders::kMsgProcesoTerminado));
     }
 };
 

@@ -4,6 +4,7 @@
 #include <QRadioButton>
 #include <QtTest>
 
+#include "builders/boletos.h"
 #include "builders/very_reduced.h"
 #include "outputs/played_set.h"
 #include "tests/ui/window_fixture.h"
@@ -50,7 +51,7 @@ class PruebaMuyReducida : public QObject {
         QTRY_VERIFY_WITH_TIMEOUT(pruebas::Dichos(inst.dialogo).size() == 2, 60000);
         QCOMPARE(pruebas::Dichos(inst.dialogo),
                  (std::vector<std::string>{"Por favor guarde antes la combinación",
-                                           std::string(builders::kMsgMuyReducidaTerminada)}));
+                                           std::string(builders::kMsgProcesoTerminado)}));
         QCOMPARE(v->PaginaActual(), static_cast<int>(ui::kBoletos));
         QCOMPARE(v->Combinacion().jugada, std::string("red"));
         QCOMPARE(v->Combinacion().nivelReducida, 0);
