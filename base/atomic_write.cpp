@@ -25,15 +25,19 @@ void Reemplazar(const std::filesystem::path& temporal, const std::filesystem::pa
     }
 }
 
-void EscribirAtomico(const std::filesystem::path& ruta, std::string_view contenido) {
+bool VolcarEnDisco(std::FILE* archivo, std::string_view bytes) {
+    // Un contenido vacío puede no tener datos: no se pasa un puntero nulo a fwrite.
+    return bytes.empty() || std::fwrite(bytes.data(), 1, bytes.size(), archivo) == bytes.size();
+}
+
+void EscribirAtomico(const std::filesystem::path& ruta, std::string_view contenido,
+                     const Volcar& volcar) {
     const auto temporal = RutaTemporalJunto(ruta);
     {
         std::unique_ptr<std::FILE, int (*)(std::FILE*)> f(std::fopen(temporal.c_str(), "wb"),
                                                           &std::fclose);
         if (!f) FalloDeArchivo(temporal);
-        // Un contenido vacío puede no tener datos: no se pasa un puntero nulo a fwrite.
-        const bool escrito = contenido.empty() || std::fwrite(contenido.data(), 1, contenido.size(),
-                                                              f.get()) == contenido.size();
+        const bool escrito = volcar(f.get(), contenido);
         if (!escrito || std::fclose(f.release()) != 0) {
             const int causa = errno;
             std::error_code ignorado;

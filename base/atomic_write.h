@@ -1,14 +1,22 @@
 #pragma once
 
 #include <cstdint>
+#include <cstdio>
 #include <filesystem>
+#include <functional>
 #include <string_view>
 
 namespace quinteva::base {
 
+// Pone los bytes en el archivo abierto; true si entraron todos. El de verdad es fwrite; las
+// pruebas dan uno que falla a mitad, como un disco que se llena o un corte.
+using Volcar = std::function<bool(std::FILE* archivo, std::string_view bytes)>;
+bool VolcarEnDisco(std::FILE* archivo, std::string_view bytes);
+
 // Escribe el archivo entero en uno temporal a su lado y lo renombra encima: si algo falla a
 // mitad (disco lleno, corte), el archivo anterior del usuario sigue intacto.
-void EscribirAtomico(const std::filesystem::path& ruta, std::string_view contenido);
+void EscribirAtomico(const std::filesystem::path& ruta, std::string_view contenido,
+                     const Volcar& volcar = VolcarEnDisco);
 
 // Copia los primeros bytes de origen (que los tiene) a ruta de la misma manera: por un temporal a
 // su lado, que el sistema copia sin pasar por la memoria del programa, y un renombrado.

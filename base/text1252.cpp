@@ -55,4 +55,21 @@ std::string_view Recortar(std::string_view texto) {
 
 bool MismoTexto(std::string_view a, std::string_view b) { return Recortar(a) == Recortar(b); }
 
+// La minúscula de un carácter de Windows-1252: A-Z y las mayúsculas acentuadas de 0xC0 a 0xDE
+// (salvo el signo de multiplicar, 0xD7), más 0x20.
+std::string ClaveSinMayusculas(std::string_view utf8) {
+    std::string bytes = AWindows1252(Recortar(utf8));
+    for (char& c : bytes) {
+        const auto u = static_cast<unsigned char>(c);
+        if ((u >= 'A' && u <= 'Z') || (u >= 0xC0 && u <= 0xDE && u != 0xD7)) {
+            c = static_cast<char>(u + 0x20);
+        }
+    }
+    return bytes;
+}
+
+bool MismoTextoSinMayusculas(std::string_view a, std::string_view b) {
+    return ClaveSinMayusculas(a) == ClaveSinMayusculas(b);
+}
+
 }  // namespace quinteva::base

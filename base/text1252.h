@@ -15,5 +15,9 @@ std::string_view Recortar(std::string_view texto);
 
 // Los campos text(n) se comparan recortados.
 bool MismoTexto(std::string_view a, std::string_view b);
+// Lo mismo sin distinguir mayúsculas de minúsculas, también en las letras acentuadas y la eñe.
+bool MismoTextoSinMayusculas(std::string_view a, std::string_view b);
+// La clave de ese orden: el texto recortado, en Windows-1252 y en minúsculas.
+std::string ClaveSinMayusculas(std::string_view texto);
 
 }  // namespace quinteva::base

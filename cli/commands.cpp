@@ -110,6 +110,16 @@ std::span<const Subcomando> Subcomandos() {
          "para jugar.",
          {{"base", "pleno", "columnas", "semilla", "porcentajes", "jornada"}, {}},
          &PorcentajesCmd},
+        {"pena",
+         "pena nueva NOMBRE --corto CORTO [--temporada aa/aa] [--ciudad C] [--titular T] "
+         "[--email E] | pena apostante CORTO --nombre N [--nif X] [--telefono T] [--email E] | "
+         "pena cuotas CORTO --apostante N --importe E --desde J [--hasta K] | pena jornada CORTO "
+         "--jornada J [--columnas N] [--acertadas c15,...,c10] [--premios p15,...,p10] "
+         "[--gastos G] [--cerrar] [--distribuir] [--json] | pena informe CORTO [--apostante N] "
+         "[--json | --pdf F.pdf]",
+         "Las Peñas de la temporada en curso: crearlas, sus Apostantes, sus cuotas, la página de "
+         "una Jornada (con su cierre y su reparto) y sus informes.",
+         OpcionesPena(), &PenaCmd},
         {"refundir",
          "refundir SALIDA.txt A.uxd B.uxd ... [--estructura continuo|separadores|columna] "
          "[--semilla S] [--json]",

@@ -37,6 +37,8 @@ int Estadisticas(const Argumentos& argumentos, std::ostream& salida);
 int Historico(const Argumentos& argumentos, std::ostream& salida);
 int MuyReducidaCmd(const Argumentos& argumentos, std::ostream& salida);
 int PorcentajesCmd(const Argumentos& argumentos, std::ostream& salida);
+int PenaCmd(const Argumentos& argumentos, std::ostream& salida);
+OpcionesAdmitidas OpcionesPena();
 int RefundirCmd(const Argumentos& argumentos, std::ostream& salida);
 int RapidaBasicaCmd(const Argumentos& argumentos, std::ostream& salida);
 OpcionesAdmitidas OpcionesRapidaBasica();

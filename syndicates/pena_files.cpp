@@ -2,7 +2,10 @@
 
 #include <algorithm>
 
+#include "base/error.h"
 #include "base/record_files.h"
+#include "seasons/season_folder.h"
+#include "syndicates/pena_store.h"
 
 namespace quinteva::syndicates {
 namespace {
@@ -149,27 +152,35 @@ std::filesystem::path CarpetaPenasTemporada(const std::filesystem::path& carpeta
     return carpetaTrabajo / kCarpetaPenas / NombreCarpeta(temporada);
 }
 
+std::string TemporadaEnCurso(const std::filesystem::path& carpetaTrabajo) {
+    const auto carpeta = seasons::TemporadaActual(carpetaTrabajo);
+    const std::string temporada = carpeta ? seasons::TemporadaDeCarpeta(*carpeta) : std::string();
+    if (temporada.empty()) throw base::Error("No hay temporada en curso");
+    return temporada;
+}
+
+std::filesystem::path CarpetaDePenas(const std::filesystem::path& carpetaTrabajo) {
+    return CarpetaPenasTemporada(carpetaTrabajo, TemporadaEnCurso(carpetaTrabajo));
+}
+
 std::filesystem::path ArchivoPena(const std::filesystem::path& rutaPena,
                                   std::string_view extension) {
     return rutaPena.string() + std::string(extension);
 }
 
-std::filesystem::path CrearPena(const std::filesystem::path& carpetaTrabajo, RegPena pena) {
+std::filesystem::path CrearPena(const std::filesystem::path& carpetaTrabajo, RegPena pena,
+                                const base::Volcar& volcar) {
     std::erase(pena.nombreReducido, ' ');
     const auto carpeta = CarpetaPenasTemporada(carpetaTrabajo, pena.temporada);
     std::filesystem::create_directories(carpeta);
-    const auto ruta = carpeta / pena.nombreReducido;
-
-    ArchivoDe<RegPena> nmp(ArchivoPena(ruta, kExtPena));
-    nmp.Escribir(1, pena);
-    nmp.Cerrar();
-    ArchivoDe<RegJornadaPena> jrn(ArchivoPena(ruta, kExtJornadas));
+    const ArchivosPena archivos(carpeta / pena.nombreReducido, volcar);
     RegJornadaPena jornada;
     jornada.temporada = pena.temporada;
-    for (int n = 1; n <= kJornadasPena; ++n) jrn.Escribir(n, jornada);
-    jrn.Cerrar();
-    ArchivoRegistros(ArchivoPena(ruta, kExtApostantes), RegApostante::kLongitud).Cerrar();
-    return ruta;
+    archivos.GuardarJornadas(std::vector<RegJornadaPena>(kJornadasPena, jornada));
+    archivos.GuardarApostantes({});
+    // El ".nmp" el último: sin él no hay Peña que abrir.
+    archivos.GuardarPena(pena);
+    return archivos.Ruta();
 }
 
 }  // namespace quinteva::syndicates

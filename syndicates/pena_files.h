@@ -8,6 +8,7 @@
 #include <string>
 #include <string_view>
 
+#include "base/atomic_write.h"
 #include "base/bytes.h"
 
 namespace quinteva::syndicates {
@@ -97,6 +98,11 @@ struct RegApostante {
 // CarpetaTrabajo\Peñas\Temporada aa-aa, de la Temporada "aa/aa".
 std::filesystem::path CarpetaPenasTemporada(const std::filesystem::path& carpetaTrabajo,
                                             std::string_view temporada);
+// La Temporada en curso ("23/24"), la de "Tempor.rar"; sin ella, Error.
+std::string TemporadaEnCurso(const std::filesystem::path& carpetaTrabajo);
+// La carpeta de las Peñas de la temporada en curso, donde el programa las crea.
+std::filesystem::path CarpetaDePenas(const std::filesystem::path& carpetaTrabajo);
+
 // La ruta de un archivo de la Peña: la ruta sin extensión y la extensión.
 std::filesystem::path ArchivoPena(const std::filesystem::path& rutaPena,
                                   std::string_view extension);
@@ -104,6 +110,7 @@ std::filesystem::path ArchivoPena(const std::filesystem::path& rutaPena,
 // Crea la Peña: la carpeta de su temporada si falta, el ".nmp", el ".jrn" con sus 70 registros
 // (solo la Temporada puesta) y el ".ptc" vacío. El nombre reducido se guarda sin blancos.
 // Devuelve la ruta sin extensión, la que se da a las ventanas.
-std::filesystem::path CrearPena(const std::filesystem::path& carpetaTrabajo, RegPena pena);
+std::filesystem::path CrearPena(const std::filesystem::path& carpetaTrabajo, RegPena pena,
+                                const base::Volcar& volcar = base::VolcarEnDisco);
 
 }  // namespace quinteva::syndicates
