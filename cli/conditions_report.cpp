@@ -3,10 +3,10 @@
 #include "base/atomic_write.h"
 #include "base/settings_ini.h"
 #include "cli/commands.h"
-#include "cli/matchday_date.h"
 #include "cli/private_folder.h"
 #include "engine/combination_files.h"
 #include "outputs/pdf_writer.h"
+#include "seasons/pools.h"
 
 namespace quinteva::cli {
 
@@ -26,7 +26,9 @@ int InformeCondicionesCmd(const Argumentos& a, std::ostream& salida) {
     engine::Abrir(c, almacenes.Ruta(), ajustes);
     const auto datos = outputs::LeerDatosPrevios(c, almacenes.Ruta(), ajustes);
     const auto informe = outputs::InformeCondiciones(
-        c, {c.jornada, FechaDeJornada(a.CarpetaTrabajo(), c.jornada), c.ruta.stem().string()},
+        c,
+        {c.jornada, seasons::FechaDeJornadaEnCurso(a.CarpetaTrabajo(), c.jornada),
+         c.ruta.stem().string()},
         datos);
     base::EscribirAtomico(pdf, outputs::PdfDeImpresion(informe));
     salida << "Páginas: " << informe.Paginas() << '\n';

@@ -7,9 +7,9 @@
 #include "cli/answering_dialog.h"
 #include "cli/commands.h"
 #include "cli/json_output.h"
-#include "cli/matchday_date.h"
 #include "engine/pricing.h"
 #include "outputs/pdf_writer.h"
+#include "seasons/pools.h"
 #include "syndicates/ledger.h"
 #include "syndicates/participants.h"
 #include "syndicates/reports.h"
@@ -54,7 +54,7 @@ int NuevaPena(const Argumentos& a, std::ostream& salida) {
     datos.titular = a.Valor("titular").value_or("");
     datos.email = a.Valor("email").value_or("");
     DialogoDeOrdenes dialogo(std::cerr);
-    const auto ruta = syndicates::GuardarDatosPena(a.CarpetaTrabajo(), datos, true, dialogo);
+    const auto ruta = syndicates::CrearDatosPena(a.CarpetaTrabajo(), datos, dialogo);
     if (!ruta) return 1;
     salida << "Creada " << ruta->string() << '\n';
     return 0;
@@ -140,7 +140,8 @@ int Jornada(const Argumentos& a, std::ostream& salida) {
     }
     if (jornada < 1 || jornada > syndicates::kJornadasPena) Uso();
     DialogoDeOrdenes dialogo(std::cerr);
-    auto p = syndicates::LlenarFlex1(pena, jornada, FechaDeJornada(a.CarpetaTrabajo(), jornada));
+    auto p = syndicates::LlenarFlex1(pena, jornada,
+                                     seasons::FechaDeJornadaEnCurso(a.CarpetaTrabajo(), jornada));
     p.acertadas = Seis(a, "acertadas", p.acertadas);
     p.premios = Seis(a, "premios", p.premios);
     if (const auto gastos = a.Valor("gastos")) p.gastos = *gastos;

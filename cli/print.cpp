@@ -8,12 +8,12 @@
 #include "cli/answering_dialog.h"
 #include "cli/commands.h"
 #include "cli/json_output.h"
-#include "cli/matchday_date.h"
 #include "outputs/pdf_writer.h"
 #include "outputs/played_set.h"
 #include "outputs/print_paper.h"
 #include "outputs/print_range.h"
 #include "outputs/print_slips.h"
+#include "seasons/pools.h"
 
 namespace quinteva::cli {
 namespace {
@@ -88,7 +88,7 @@ int Imprimir(const Argumentos& argumentos, std::ostream& salida) {
     if (!rango) return 1;
     const auto impresion = outputs::ImprimirTodos(
         activas, rango->desde, rango->hasta,
-        Disposicion(argumentos, ajustes, FechaDeJornada(trabajo, juego.jornada)));
+        Disposicion(argumentos, ajustes, seasons::FechaDeJornadaEnCurso(trabajo, juego.jornada)));
     if (pdf) {
         base::EscribirAtomico(*pdf, outputs::PdfDeImpresion(impresion));
         return 0;

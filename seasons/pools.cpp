@@ -6,6 +6,7 @@
 #include <set>
 
 #include "base/dates.h"
+#include "base/error.h"
 #include "base/formats.h"
 #include "base/pleno_letter.h"
 #include "base/record_files.h"
@@ -332,6 +333,15 @@ bool VentanaResultadosQuiniela::Guardar() {
     }
     columnas.Cerrar();
     return true;
+}
+
+std::string FechaDeJornadaEnCurso(const std::filesystem::path& carpetaTrabajo, int jornada) {
+    try {
+        const auto partidos = PartidosDeQuiniela(CarpetaTemporadaEnCurso(carpetaTrabajo), jornada);
+        return partidos.empty() ? std::string() : FechaCorta(partidos.front().fecha);
+    } catch (const base::Error&) {
+        return {};
+    }
 }
 
 }  // namespace quinteva::seasons

@@ -50,6 +50,10 @@ struct FilaBoleto {
 std::vector<RegPartidoQuin> PartidosDeQuiniela(const std::filesystem::path& carpetaTemporada,
                                                int jornada);
 
+// La fecha ("dd/mm/aa") de una Jornada de Quinielas de la temporada en curso, la de su primer
+// partido; vacía si la Jornada no está o no hay temporada.
+std::string FechaDeJornadaEnCurso(const std::filesystem::path& carpetaTrabajo, int jornada);
+
 // Los nombres de "Otros Equipos": los de los partidos de "Jquin.rar" que no son de ninguna
 // división de "Nomeq.rar", sin repetir y en orden.
 std::vector<std::string> OtrosEquipos(const std::filesystem::path& carpetaTemporada);

@@ -79,25 +79,34 @@ double ValorDeTexto(std::string_view texto) {
 
 std::string TextoDeDinero(double valor) { return base::Formato(valor, kDinero); }
 
-std::optional<std::filesystem::path> GuardarDatosPena(const std::filesystem::path& carpetaTrabajo,
-                                                      RegPena datos, bool crear,
-                                                      base::Dialogo& dialogo,
-                                                      const base::Volcar& volcar) {
-    if (Vacio(datos.nombre) || Vacio(datos.nombreReducido)) {
-        dialogo.Mensaje(kMsgCrearFaltanNombres, base::Icono::Aviso);
-        return std::nullopt;
-    }
+namespace {
+
+bool ConNombres(const RegPena& datos, base::Dialogo& dialogo) {
+    if (!Vacio(datos.nombre) && !Vacio(datos.nombreReducido)) return true;
+    dialogo.Mensaje(kMsgCrearFaltanNombres, base::Icono::Aviso);
+    return false;
+}
+
+}  // namespace
+
+std::optional<std::filesystem::path> CrearDatosPena(const std::filesystem::path& carpetaTrabajo,
+                                                    RegPena datos, base::Dialogo& dialogo,
+                                                    const base::Volcar& volcar) {
+    if (!ConNombres(datos, dialogo)) return std::nullopt;
     std::erase(datos.nombreReducido, ' ');
     const auto ruta = CarpetaPenasTemporada(carpetaTrabajo, datos.temporada) / datos.nombreReducido;
-    if (!crear) {
-        ArchivosPena(ruta, volcar).GuardarPena(datos);
-        return ruta;
-    }
     if (std::filesystem::exists(ArchivoPena(ruta, kExtPena))) {
         dialogo.Mensaje(kMsgPenaRepetida, base::Icono::Aviso);
         return std::nullopt;
     }
     return CrearPena(carpetaTrabajo, std::move(datos), volcar);
+}
+
+bool ModificarDatosPena(const ArchivosPena& pena, RegPena datos, base::Dialogo& dialogo) {
+    datos.nombreReducido = pena.LeerPena().nombreReducido;
+    if (!ConNombres(datos, dialogo)) return false;
+    pena.GuardarPena(datos);
+    return true;
 }
 
 PaginaJornada LlenarFlex1(const ArchivosPena& pena, int jornada, std::string fecha) {

@@ -31,11 +31,13 @@ inline constexpr std::string_view kMsgSinColumnas =
     "No ha indicado el número de columnas que se juegan.";
 inline constexpr std::string_view kCeroNegativo = "0,00 ";
 
-// "Crear nueva Peña" (crear) o "&Modificar": los dos nombres, el reducido sin blancos y, al
-// crear, que no exista ya en la carpeta de su Temporada. La ruta de la Peña sin extensión.
-std::optional<std::filesystem::path> GuardarDatosPena(
-    const std::filesystem::path& carpetaTrabajo, RegPena datos, bool crear, base::Dialogo& dialogo,
+// "Crear nueva Peña": los dos nombres, el reducido sin blancos y que no exista ya en la carpeta
+// de su Temporada. La ruta de la Peña sin extensión.
+std::optional<std::filesystem::path> CrearDatosPena(
+    const std::filesystem::path& carpetaTrabajo, RegPena datos, base::Dialogo& dialogo,
     const base::Volcar& volcar = base::VolcarEnDisco);
+// "&Modificar": los dos nombres; solo se escribe el ".nmp", con el nombre reducido de siempre.
+bool ModificarDatosPena(const ArchivosPena& pena, RegPena datos, base::Dialogo& dialogo);
 
 // Una fila de "Relación de apostantes y cantidades jugadas".
 struct FilaJornadaPena {

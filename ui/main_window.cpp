@@ -309,10 +309,14 @@ void VentanaPrincipal::CrearMenus() {
 
     QMenu* penas = menuBar()->addMenu(QStringLiteral("&Peñas"));
     penas->setObjectName(QStringLiteral("MenuPenas"));
-    Accion(penas, QStringLiteral("&Crear nueva Peña..."), QStringLiteral("AccionCrearPena"), false);
-    Accion(penas, QStringLiteral("&Abrir Peña..."), QStringLiteral("AccionAbrirPena"), false);
-    ultimaPena_ = Accion(penas, {}, QStringLiteral("AccionUltimaPena"), false);
+    connect(
+        Accion(penas, QStringLiteral("&Crear nueva Peña..."), QStringLiteral("AccionCrearPena")),
+        &QAction::triggered, this, &VentanaPrincipal::CrearPena);
+    connect(Accion(penas, QStringLiteral("&Abrir Peña..."), QStringLiteral("AccionAbrirPena")),
+            &QAction::triggered, this, &VentanaPrincipal::AbrirPenaDeArchivo);
+    ultimaPena_ = Accion(penas, {}, QStringLiteral("AccionUltimaPena"));
     ultimaPena_->setVisible(false);
+    connect(ultimaPena_, &QAction::triggered, this, &VentanaPrincipal::AbrirUltimaPena);
 
     QMenu* ayuda = menuBar()->addMenu(QStringLiteral("Ay&uda"));
     ayuda->setObjectName(QStringLiteral("MenuAyuda"));

@@ -143,6 +143,12 @@ class VentanaPrincipal : public QMainWindow {
     // "Generar Quin. Básica": la ventana de los límites opcionales y su "&Generar" (condiciones,
     // generar, guardar y ajustar al número pedido).
     void AbrirRapidaBasica();
+    // "&Peñas": "&Crear nueva Peña...", "&Abrir Peña..." y la última que se abrió.
+    void CrearPena();
+    void AbrirPenaDeArchivo();
+    void AbrirUltimaPena();
+    // La ventana de la Peña (su ruta sin extensión), que queda como la última.
+    void AbrirPena(const std::filesystem::path& ruta);
     // "&Refundir Combinaciones": varias Combinaciones guardadas a un archivo de texto.
     void RefundirCombinaciones();
     // "Importar &archivo": listas de columnas hechas fuera, impresas o en archivo oficial.

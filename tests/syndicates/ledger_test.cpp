@@ -39,7 +39,7 @@ RegApostante Apostante(const std::string& nombre, const std::string& nif = "") {
 struct PenaNueva {
     pruebas::CarpetaTemporal trabajo;
     DialogoGuionado dialogo;
-    ArchivosPena pena{*GuardarDatosPena(trabajo.Ruta(), DatosPena(), true, dialogo)};
+    ArchivosPena pena{*CrearDatosPena(trabajo.Ruta(), DatosPena(), dialogo)};
 
     void Anadir(std::initializer_list<const char*> nombres) {
         for (const char* n : nombres) ASSERT_TRUE(AnadirApostante(pena, Apostante(n), dialogo));
@@ -53,12 +53,12 @@ struct PenaNueva {
 TEST(CrearPena, LosDosNombresElCortoSinBlancosYNoRepetido) {
     pruebas::CarpetaTemporal trabajo;
     DialogoGuionado dialogo;
-    EXPECT_FALSE(GuardarDatosPena(trabajo.Ruta(), DatosPena("", "X"), true, dialogo));
-    EXPECT_FALSE(GuardarDatosPena(trabajo.Ruta(), DatosPena("Peña", "  "), true, dialogo));
-    const auto ruta = GuardarDatosPena(trabajo.Ruta(), DatosPena(), true, dialogo);
+    EXPECT_FALSE(CrearDatosPena(trabajo.Ruta(), DatosPena("", "X"), dialogo));
+    EXPECT_FALSE(CrearDatosPena(trabajo.Ruta(), DatosPena("Peña", "  "), dialogo));
+    const auto ruta = CrearDatosPena(trabajo.Ruta(), DatosPena(), dialogo);
     ASSERT_TRUE(ruta);
     EXPECT_EQ(*ruta, trabajo / "Peñas" / "Temporada 23-24" / "LosAmigos");
-    EXPECT_FALSE(GuardarDatosPena(trabajo.Ruta(), DatosPena("Otra", "Los  Amigos"), true, dialogo));
+    EXPECT_FALSE(CrearDatosPena(trabajo.Ruta(), DatosPena("Otra", "Los  Amigos"), dialogo));
     EXPECT_EQ(dialogo.Textos(), (std::vector<std::string>{std::string(kMsgCrearFaltanNombres),
                                                           std::string(kMsgCrearFaltanNombres),
                                                           std::string(kMsgPenaRepetida)}));
@@ -71,7 +71,7 @@ TEST(CrearPena, LosDosNombresElCortoSinBlancosYNoRepetido) {
     const auto jrn = pruebas::BytesDeArchivo(pena.Archivo(kExtJornadas));
     RegPena cambiada = DatosPena("Peña de los Amigos del Barrio");
     cambiada.ciudad = "Zaragoza";
-    EXPECT_TRUE(GuardarDatosPena(trabajo.Ruta(), cambiada, false, dialogo));
+    EXPECT_TRUE(ModificarDatosPena(pena, cambiada, dialogo));
     EXPECT_EQ(base::Recortar(pena.LeerPena().ciudad), "Zaragoza");
     EXPECT_EQ(pruebas::BytesDeArchivo(pena.Archivo(kExtJornadas)), jrn);
 }
@@ -362,7 +362,7 @@ TEST(ArchivosPena, UnGuardadoQueFallaAMitadDejaLosArchivosDeAntes) {
     PaginaJornada pagina = LlenarFlex1(rota, 1, "");
     EXPECT_THROW(GuardarPagina(rota, pagina), base::Error);
     try {
-        GuardarDatosPena(p.trabajo.Ruta(), DatosPena("Otro nombre"), false, p.dialogo, MitadYFalla);
+        ModificarDatosPena(rota, DatosPena("Otro nombre"), p.dialogo);
         ADD_FAILURE() << "el guardado tenía que fallar";
     } catch (const base::Error& e) {
         EXPECT_STREQ(e.what(), "Disco lleno");
@@ -381,8 +381,7 @@ TEST(Importar, LaMismaPenaLasFilasSinNombreYLasRepetidas) {
     PenaNueva p;
     p.Anadir({"Alba"});
     // Otra Peña con sus partícipes.
-    const auto otra =
-        GuardarDatosPena(p.trabajo.Ruta(), DatosPena("Otra", "Otra"), true, p.dialogo);
+    const auto otra = CrearDatosPena(p.trabajo.Ruta(), DatosPena("Otra", "Otra"), p.dialogo);
     const ArchivosPena origen(*otra);
     RegApostante conCuota = Apostante("Daniel", "11111111H");
     conCuota.cuotas[3] = 9;

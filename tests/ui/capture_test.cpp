@@ -14,6 +14,8 @@
 
 #include "engine/analysis.h"
 #include "seasons/update.h"
+#include "syndicates/ledger.h"
+#include "syndicates/participants.h"
 #include "tests/support/publisher_process.h"
 #include "tests/ui/hits_fixture.h"
 #include "tests/ui/publisher_fixture.h"
@@ -36,6 +38,9 @@
 #include "ui/official_file_window.h"
 #include "ui/options_window.h"
 #include "ui/paper_print_window.h"
+#include "ui/pena_accounts_window.h"
+#include "ui/pena_data_window.h"
+#include "ui/pena_window.h"
 #include "ui/percentages_window.h"
 #include "ui/pools_results_window.h"
 #include "ui/pools_slip_window.h"
@@ -358,6 +363,56 @@ class PruebaCapturas : public QObject {
         pruebas::Pulsar(*ventana, "BotonAnadirRefundir");
         Capturar(*ventana, QStringLiteral("ventana_refundir_combinaciones"));
         ventana->close();
+    }
+
+    // Una Peña con tres Apostantes y la Jornada 12 cerrada y repartida.
+    void VentanasDePenas() {
+        pruebas::Instalacion inst;
+        auto v = inst.Ventana();
+        syndicates::RegPena datos;
+        datos.nombre = "Peña Los Amigos del Bar";
+        datos.nombreReducido = "LosAmigos";
+        datos.temporada = "23/24";
+        pruebas::DialogoGuionado guion;
+        const syndicates::ArchivosPena pena(
+            *syndicates::CrearDatosPena(inst.trabajo.Ruta(), datos, guion));
+        for (const char* n : {"García López, Ana", "Sanz Ruiz, Benito", "Núñez Ortiz, Carmen"}) {
+            syndicates::RegApostante a;
+            a.nombre = n;
+            a.nif = "12345678Z";
+            syndicates::AnadirApostante(pena, a, guion);
+        }
+        for (std::size_t a = 0; a < 3; ++a)
+            syndicates::IntroducirCuotas(pena, a, "1", "10", "14", guion);
+        auto pagina = syndicates::LlenarFlex1(pena, 12, "10/12/23");
+        syndicates::TeclearColumnas(pagina, "4", 0.75F, guion);
+        pagina.acertadas[5] = "1";
+        pagina.premios[5] = "100,00";
+        syndicates::CerrarJornada(pena, pagina, guion);
+        syndicates::Distribuir(pagina);
+        syndicates::GuardarPagina(pena, pagina);
+        v->AbrirPena(pena.Ruta());
+        auto* ventana = Hijo<ui::VentanaPena>(*v, "VentanaPena");
+        Capturar(*ventana, QStringLiteral("ventana_pena_apostantes"));
+        pruebas::Pulsar(*ventana, "BotonPaginaJornadas");
+        auto* selector = Hijo<QComboBox>(*ventana, "SelectorJornadaPena");
+        selector->setCurrentIndex(11);
+        emit selector->activated(11);
+        Capturar(*ventana, QStringLiteral("ventana_pena_jornadas"));
+        pruebas::Pulsar(*ventana, "BotonInformePena");
+        auto* cuentas = Hijo<ui::VentanaCuentas>(*ventana, "VentanaCuentas");
+        Capturar(*cuentas, QStringLiteral("ventana_informe_pena"));
+        cuentas->close();
+        pruebas::Pulsar(*ventana, "BotonVerJornada");
+        auto* visor = Hijo<ui::VentanaVisor>(*ventana, "VentanaVisor");
+        pruebas::Pulsar(*visor, "BotonImprimir");
+        CapturarImpresion(inst.impresas.back(), QStringLiteral("impresion_jornada_pena"));
+        visor->close();
+        ventana->close();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        Hijo<QAction>(*v, "AccionCrearPena")->trigger();
+        Capturar(*Hijo<ui::VentanaDatosPena>(*v, "VentanaDatosPena"),
+                 QStringLiteral("ventana_crear_pena"));
     }
 
     void ResumenDeCondiciones() {
