@@ -54,9 +54,6 @@ std::vector<FilaJornadaPena> FilasDeLaJornada(const std::vector<RegApostante>& a
     }
     totalJugado = TextoDeDinero(jugado);
     totalObtenido = TextoDeDinero(suma(&FilaJornadaPena::obtenido));
-    std::stable_sort(filas.begin(), filas.end(), [](const auto& a, const auto& b) {
-        return base::ClaveSinMayusculas(a.nombre) < base::ClaveSinMayusculas(b.nombre);
-    });
     return filas;
 }
 
@@ -115,6 +112,7 @@ PaginaJornada LlenarFlex1(const ArchivosPena& pena, int jornada, std::string fec
     p.fecha = std::move(fecha);
     p.filas = FilasDeLaJornada(pena.LeerApostantes(), static_cast<std::size_t>(jornada),
                                p.totalJugado, p.totalObtenido);
+    OrdenarFilas(p, OrdenFilas::Nombres);
     const RegJornadaPena r = pena.LeerJornada(jornada);
     p.numColumnas = base::Formato(r.numColumnas, "##0");
     p.importe = TextoDeDinero(r.importe);
@@ -127,6 +125,13 @@ PaginaJornada LlenarFlex1(const ArchivosPena& pena, int jornada, std::string fec
     p.gastos = TextoDeDinero(r.gastos);
     p.aRepartir = TextoDeDinero(r.aRepartir);
     return p;
+}
+
+void OrdenarFilas(PaginaJornada& p, OrdenFilas orden) {
+    std::stable_sort(p.filas.begin(), p.filas.end(), [orden](const auto& a, const auto& b) {
+        if (orden == OrdenFilas::Importe) return ValorDeTexto(a.jugado) < ValorDeTexto(b.jugado);
+        return base::ClaveSinMayusculas(a.nombre) < base::ClaveSinMayusculas(b.nombre);
+    });
 }
 
 void ReCalculo(PaginaJornada& p) {

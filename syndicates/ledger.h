@@ -70,6 +70,11 @@ struct PaginaJornada {
 // del registro de la Jornada; la fecha es la de "Jquin.rar".
 PaginaJornada LlenarFlex1(const ArchivosPena& pena, int jornada, std::string fecha);
 
+// El menú de la relación: por "Nombres" (como la llena LlenarFlex1) o por "Importe" jugado, de
+// menos a más.
+enum class OrdenFilas { Nombres, Importe };
+void OrdenarFilas(PaginaJornada& pagina, OrdenFilas orden);
+
 // ReCalculo: "Total cobrado" de las seis categorías con sus dos casillas, "A repartir" (menos
 // los gastos; negativo, "0,00 ").
 void ReCalculo(PaginaJornada& pagina);

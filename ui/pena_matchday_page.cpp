@@ -7,6 +7,7 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTableWidget>
@@ -140,6 +141,21 @@ PaginaJornadasPena::PaginaJornadasPena(const syndicates::ArchivosPena& pena,
                                          QStringLiteral("Obtenido")});
     rejilla_->setEditTriggers(QAbstractItemView::NoEditTriggers);
     rejilla_->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
+    rejilla_->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(rejilla_, &QTableWidget::customContextMenuRequested, this, [this](QPoint donde) {
+        // Sin bucle propio: el menú se borra al cerrarse.
+        auto* menu = new QMenu(this);
+        menu->setObjectName(QStringLiteral("MenuOrdenJornada"));
+        menu->setAttribute(Qt::WA_DeleteOnClose);
+        for (const auto& [texto, orden] : {std::pair{"Importe", syndicates::OrdenFilas::Importe},
+                                           std::pair{"Nombres", syndicates::OrdenFilas::Nombres}}) {
+            menu->addAction(QString::fromLatin1(texto), this, [this, orden = orden] {
+                syndicates::OrdenarFilas(pagina_, orden);
+                Mostrar();
+            });
+        }
+        menu->popup(rejilla_->viewport()->mapToGlobal(donde));
+    });
     caja->addWidget(rejilla_, 1);
     auto* totales = new QHBoxLayout;
     totales->addStretch();

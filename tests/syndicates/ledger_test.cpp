@@ -191,6 +191,13 @@ TEST(PaginaJornada, LasFilasPorNombreConSuParticipacionYLosTotales) {
     EXPECT_EQ(pagina.numColumnas, "0");
     EXPECT_EQ(pagina.importe, "0,00");
     EXPECT_FALSE(pagina.cerrada);
+    // El menú de la relación: por importe, de menos a más; y otra vez por nombres.
+    PaginaJornada porImporte = pagina;
+    OrdenarFilas(porImporte, OrdenFilas::Importe);
+    EXPECT_EQ(porImporte.filas[0].nombre, "Benito");
+    EXPECT_EQ(porImporte.filas[2].nombre, "alba");
+    OrdenarFilas(porImporte, OrdenFilas::Nombres);
+    EXPECT_EQ(porImporte.filas[0].nombre, "alba");
     // Una Jornada que no juega nadie: sin filas y sin "Distribuir".
     const PaginaJornada vacia = LlenarFlex1(p.pena, 8, "");
     EXPECT_TRUE(vacia.filas.empty());

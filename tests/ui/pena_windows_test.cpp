@@ -126,6 +126,11 @@ class PruebaPenas : public QObject {
         QCOMPARE(Celda(jornada, 0, 3), QStringLiteral("33,33"));
         QCOMPARE(Celda(jornada, 2, 3), QStringLiteral("33,34"));
         QCOMPARE(pruebas::TextoDe(*pena, "TotalObtenidoPena"), QStringLiteral("100,00"));
+        // El menú de la relación ordena por importe (todos 1,00: el orden no cambia).
+        pruebas::MenuDeContexto(*pena, jornada,
+                                jornada->visualItemRect(jornada->item(0, 0)).center(),
+                                QStringLiteral("MenuOrdenJornada"), QStringLiteral("Importe"));
+        QCOMPARE(Celda(jornada, 2, 3), QStringLiteral("33,34"));
         pruebas::Pulsar(*pena, "BotonGuardarJornada");
         const syndicates::ArchivosPena archivos(inst.trabajo / "Peñas" / "Temporada 23-24" /
                                                 "LosAmigos");
