@@ -9,6 +9,8 @@
 #include "base/error.h"
 #include "base/text1252.h"
 #include "syndicates/participants.h"
+#include "syndicates/pena_hits.h"
+#include "syndicates/reports.h"
 #include "tests/support/file_bytes.h"
 #include "tests/support/scripted_dialog.h"
 #include "tests/support/temp_folder.h"
@@ -297,6 +299,34 @@ TEST(PaginaJornada, TresIgualesYCienEurosLaUltimaSeLlevaElCentimo) {
     EXPECT_FLOAT_EQ(r.aRepartir, 100.0F);
     // Vuelta a la página: lo obtenido de cada uno.
     EXPECT_EQ(LlenarFlex1(p.pena, 12, "").totalObtenido, "100,00");
+}
+
+// Una Jornada jugada de principio a fin: las cuotas, los aciertos copiados desde la comprobación
+// ("A &Peña"), los premios, el cierre, el reparto y las cuentas.
+TEST(PaginaJornada, LosAciertosDeLaComprobacionLleganALaJornadaQueSeReparte) {
+    PenaNueva p;
+    p.Anadir({"Alba", "Benito"});
+    p.Cuota(0, "3", "20");
+    p.Cuota(1, "1,5", "20");
+    outputs::TablaAciertos tabla;
+    tabla.cuentas = {0, 0, 1, 2, 5, 11};
+    p.dialogo.Responder(base::Respuesta::Si)
+        .Responder(std::optional<std::filesystem::path>(p.pena.Archivo(kExtPena)));
+    ASSERT_TRUE(CopiarAPena(p.trabajo.Ruta(), 20, tabla, p.dialogo));
+    PaginaJornada pagina = LlenarFlex1(p.pena, 20, "");
+    EXPECT_EQ(pagina.acertadas, (std::array<std::string, 6>{"0", "0", "1", "2", "5", "11"}));
+    ASSERT_TRUE(TeclearColumnas(pagina, "6", 0.75F, p.dialogo));
+    pagina.premios = {"", "", "30,00", "10,00", "", ""};
+    ASSERT_TRUE(CerrarJornada(p.pena, pagina, p.dialogo));
+    EXPECT_EQ(pagina.aRepartir, "50,00");
+    Distribuir(pagina);
+    EXPECT_EQ(pagina.filas[0].obtenido, "33,33");
+    EXPECT_EQ(pagina.filas[1].obtenido, "16,67");
+    GuardarPagina(p.pena, pagina);
+    const Cuentas cuentas = CuentasDePena(p.pena.LeerJornadas());
+    EXPECT_EQ(cuentas.jornadasJugadas, 1);
+    EXPECT_EQ(cuentas.resultado, "45,50");
+    EXPECT_EQ(CuentasDeApostante(p.pena.LeerApostantes()[1]).obtenido, "16,67");
 }
 
 // Los tres archivos byte a byte tras una secuencia conocida.
