@@ -68,4 +68,10 @@ void CopiarAtomico(const std::filesystem::path& origen, const std::filesystem::p
     Reemplazar(temporal, ruta);
 }
 
+void BorrarArchivo(const std::filesystem::path& ruta) {
+    std::error_code error;
+    std::filesystem::remove(ruta, error);
+    if (error) throw Error("No se pudo borrar " + ruta.string());
+}
+
 }  // namespace quinteva::base

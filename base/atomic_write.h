@@ -23,6 +23,9 @@ void EscribirAtomico(const std::filesystem::path& ruta, std::string_view conteni
 void CopiarAtomico(const std::filesystem::path& origen, const std::filesystem::path& ruta,
                    std::uintmax_t bytes);
 
+// Borra el archivo si está; Error "No se pudo borrar ..." si no se pudo.
+void BorrarArchivo(const std::filesystem::path& ruta);
+
 // Ruta temporal al lado de la ruta dada, para quien escribe por su cuenta y renombra después.
 std::filesystem::path RutaTemporalJunto(const std::filesystem::path& ruta);
 

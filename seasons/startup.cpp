@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <system_error>
 
+#include "base/atomic_write.h"
 #include "base/error.h"
 #include "base/formats.h"
 #include "base/record_files.h"
@@ -23,12 +24,6 @@ void CopiarSiFalta(const std::filesystem::path& origen, const std::filesystem::p
                           destino.parent_path().string());
 }
 
-void Borrar(const std::filesystem::path& ruta) {
-    std::error_code error;
-    std::filesystem::remove(ruta, error);
-    if (error) throw base::Error("No se pudo borrar " + ruta.string());
-}
-
 }  // namespace
 
 void MoverArchivosDescargados(const std::filesystem::path& carpetaPrograma,
@@ -37,7 +32,7 @@ void MoverArchivosDescargados(const std::filesystem::path& carpetaPrograma,
     for (const std::string_view nombre : {kJlig2, kJquin, kJornadas, kNomeq}) {
         CopiarSiFalta(carpetaPrograma / nombre, carpetaTemporada / nombre);
         // "Jlig2.rar" se queda en la carpeta del programa: se borra el de la carpeta de trabajo.
-        Borrar(nombre == kJlig2 ? carpetaTrabajo / nombre : carpetaPrograma / nombre);
+        base::BorrarArchivo(nombre == kJlig2 ? carpetaTrabajo / nombre : carpetaPrograma / nombre);
     }
 }
 

@@ -15,24 +15,14 @@ namespace {
 constexpr std::string_view kSeccion = "Opciones";
 constexpr std::string_view kClaveServidor = "ServidorActualizaciones";
 
-void Borrar(const std::filesystem::path& ruta) {
-    std::error_code error;
-    std::filesystem::remove(ruta, error);
-    if (error) throw base::Error("No se pudo borrar " + ruta.string());
-}
-
 // Copia encima sin dejar a medias la de la temporada: primero junto a ella, luego se renombra.
 void CopiarEncima(const std::filesystem::path& origen, const std::filesystem::path& destino) {
-    const auto temporal = base::RutaTemporalJunto(destino);
-    std::error_code error;
-    std::filesystem::copy_file(origen, temporal, std::filesystem::copy_options::overwrite_existing,
-                               error);
-    if (error) {
-        std::filesystem::remove(temporal, error);
+    try {
+        base::CopiarAtomico(origen, destino, std::filesystem::file_size(origen));
+    } catch (const std::exception&) {
         throw base::Error("No se pudo copiar " + origen.filename().string() + " a " +
                           destino.parent_path().string());
     }
-    base::Reemplazar(temporal, destino);
 }
 
 }  // namespace
@@ -103,7 +93,7 @@ bool ActualizarTemporada(base::Red& red, base::Dialogo& dialogo,
 
     paso(PasoActualizacion::Descargando);
     for (const std::string_view nombre : {kJlig2, kJquin, kJornadas, kNomeq, kHist}) {
-        Borrar(carpetaTrabajo / nombre);
+        base::BorrarArchivo(carpetaTrabajo / nombre);
     }
     for (const std::string_view nombre : {kJlig2, kJquin, kJornadas, kNomeq}) {
         if (!TraerArchivo(red, *carpeta, nombre, carpetaTrabajo)) {
