@@ -120,6 +120,12 @@ std::span<const Subcomando> Subcomandos() {
          "Las Peñas de la temporada en curso: crearlas, sus Apostantes, sus cuotas, la página de "
          "una Jornada (con su cierre y su reparto) y sus informes.",
          OpcionesPena(), &PenaCmd},
+        {"verificar",
+         "verificar RUTA.uxd --al 13|12|11",
+         "La garantía de las reducidas guardadas (\".red\") frente a las generadas (\".cnd\"): "
+         "cada generada activa a 1, 2 o 3 signos de alguna reducida; dice la primera que no.",
+         {{"al"}, {}},
+         &VerificarCmd},
         {"refundir",
          "refundir SALIDA.txt A.uxd B.uxd ... [--estructura continuo|separadores|columna] "
          "[--semilla S] [--json]",

@@ -39,6 +39,7 @@ int MuyReducidaCmd(const Argumentos& argumentos, std::ostream& salida);
 int PorcentajesCmd(const Argumentos& argumentos, std::ostream& salida);
 int PenaCmd(const Argumentos& argumentos, std::ostream& salida);
 OpcionesAdmitidas OpcionesPena();
+int VerificarCmd(const Argumentos& argumentos, std::ostream& salida);
 int RefundirCmd(const Argumentos& argumentos, std::ostream& salida);
 int RapidaBasicaCmd(const Argumentos& argumentos, std::ostream& salida);
 OpcionesAdmitidas OpcionesRapidaBasica();

@@ -9,6 +9,7 @@
 #include "engine/combination.h"
 #include "engine/cover.h"
 #include "engine/generation.h"
+#include "engine/guarantee_check.h"
 #include "engine/reduction.h"
 #include "tests/support/memory_settings.h"
 #include "tests/support/temp_folder.h"
@@ -49,28 +50,10 @@ struct Desarrollo {
     }
 };
 
-// Verdadero si cada columna desarrollada está a "radio" o menos de alguna reducida: se marca el
-// entorno de cada reducida en un mapa de los 3^14 códigos y se mira cada desarrollada.
+// Verdadero si cada columna desarrollada está a "radio" o menos de alguna reducida.
 inline bool Cubre(const std::vector<engine::RegistroColumna>& reducidas,
                   const std::vector<engine::RegistroColumna>& desarrolladas, int radio) {
-    std::vector<bool> cubierta(engine::kCodigosColumna, false);
-    const auto marcar = [&](auto&& self, engine::Columna c, int desde, int quedan) -> void {
-        cubierta[static_cast<std::size_t>(engine::CodigoColumna(c))] = true;
-        if (quedan == 0) return;
-        for (int p = desde; p < engine::kPartidos; ++p) {
-            const char propio = c[static_cast<std::size_t>(p)];
-            for (const char otro : engine::kSignos) {
-                if (otro == propio) continue;
-                c[static_cast<std::size_t>(p)] = otro;
-                self(self, c, p + 1, quedan - 1);
-            }
-            c[static_cast<std::size_t>(p)] = propio;
-        }
-    };
-    for (const auto& r : reducidas) marcar(marcar, r.columna, 0, radio);
-    return std::all_of(desarrolladas.begin(), desarrolladas.end(), [&](const auto& d) {
-        return cubierta[static_cast<std::size_t>(engine::CodigoColumna(d.columna))];
-    });
+    return engine::VerificarGarantia(desarrolladas, reducidas, radio).Cumple();
 }
 
 }  // namespace quinteva::pruebas

@@ -33,6 +33,29 @@ TEST(CliMuyReducida, TresDoblesAlTreceSonDosColumnas) {
     EXPECT_EQ(outputs::LeerColumnas(trabajo / "Muy.red", true).size(), 2U);
 }
 
+TEST(CliVerificar, LaMuyReducidaCumpleYSinReducidasNo) {
+    CarpetaTemporal trabajo;
+    const std::string carpeta = " --carpeta '" + trabajo.Ruta().string() + "'";
+    const auto uxd = trabajo / "Verif.uxd";
+    ASSERT_EQ(
+        EjecutarCli("muy-reducida '" + uxd.string() +
+                    "' --base \"1X2 1X2 1X2 1X2 1 1 1 1 1 1 1 1 1 1\" --pleno 1-0 --nivel 13" +
+                    carpeta)
+            .codigo,
+        0);
+    const Salida si = EjecutarCli("verificar '" + uxd.string() + "' --al 13" + carpeta);
+    EXPECT_EQ(si.codigo, 0) << si.errores;
+    // Las 9 del sistema y la que se añade al azar para que el último boleto no lleve una sola.
+    EXPECT_EQ(si.salida, "Cumple la garantía al 13: 10 reducidas cubren 81 generadas.\n");
+    // Sin el ".red", nada cubre: la primera generada.
+    std::filesystem::remove(trabajo / "Verif.red");
+    const Salida no = EjecutarCli("verificar '" + uxd.string() + "' --al 12" + carpeta);
+    EXPECT_EQ(no.codigo, 1);
+    EXPECT_EQ(no.salida,
+              "No cumple la garantía al 12: la columna 1 (11111111111111) no está cubierta.\n");
+    EXPECT_EQ(EjecutarCli("verificar '" + uxd.string() + "' --al 10" + carpeta).codigo, 2);
+}
+
 TEST(CliMuyReducida, UnaBaseSinFilaNoSeGenera) {
     CarpetaTemporal trabajo;
     const std::string carpeta = " --carpeta '" + trabajo.Ruta().string() + "'";
