@@ -66,7 +66,7 @@ TEST(PorPorcentajes, ElCodigoDeLosSignosDeCadaPartido) {
 TEST(PorPorcentajes, ElRestoDelRedondeoVaAlUltimoSignoConCupo) {
     EXPECT_EQ(CuposDePartido(10, {50, 30, 20}), (Cupos{5, 3, 2}));
     EXPECT_EQ(CuposDePartido(7, {50, 30, 20}), (Cupos{3, 2, 2}));
-    // Un doble 1X con 100 y 0: todo al 1.
+    // Un doble 1X con 100 y 0: siempre el 1.
     EXPECT_EQ(CuposDePartido(10, {100, 0, 0}), (Cupos{10, 0, 0}));
     // El 2 sin cupo: el resto a la X.
     EXPECT_EQ(CuposDePartido(3, {34, 66, 0}), (Cupos{1, 2, 0}));

@@ -178,7 +178,7 @@ TEST(CliRapidaBasica, SinFilasNingunaCondicionYElAjusteTomaDelDesarrolloEntero) 
     EXPECT_EQ(s.salida,
               "{\"NumCondiciones\": 0, \"TotalGeneradas\": 27, \"ActivasGeneradas\": 16, "
               "\"Jugada\": \"cnd\"}\n");
-    // Todo el desarrollo (27) menos las 11 que quitó el ajuste: ninguna fuera de la base.
+    // El desarrollo entero (27) menos las 11 que quitó el ajuste: ninguna fuera de la base.
     const auto todas = outputs::LeerColumnas(trabajo / "Libre.cnd", false);
     EXPECT_EQ(todas.size(), 27U);
     for (const auto& r : todas) {
