@@ -4,13 +4,16 @@
 
 namespace quinteva::ui {
 
+void AbrirSobre(QDialog* ventana) {
+    ventana->setAttribute(Qt::WA_DeleteOnClose);
+    ventana->setWindowModality(Qt::WindowModal);
+    ventana->open();
+}
+
 void AbrirEnVisor(QWidget* madre, const EntornoPena& entorno, const QString& titulo,
                   outputs::Impresion paginas, const std::filesystem::path& pdf) {
-    auto* visor = new VentanaVisor({titulo, std::move(paginas), pdf}, entorno.dialogo,
-                                   entorno.imprimir, madre);
-    visor->setAttribute(Qt::WA_DeleteOnClose);
-    visor->setWindowModality(Qt::WindowModal);
-    visor->open();
+    AbrirSobre(new VentanaVisor({titulo, std::move(paginas), pdf}, entorno.dialogo,
+                                entorno.imprimir, madre));
 }
 
 }  // namespace quinteva::ui

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QDialog>
 #include <QString>
 #include <QWidget>
 #include <filesystem>
@@ -19,6 +20,10 @@ struct EntornoPena {
     base::Dialogo& dialogo;
     Imprimir imprimir;
 };
+
+// Abre una ventana de la Peña sobre la que la pide: modal sin bucle propio, y se borra al
+// cerrarse.
+void AbrirSobre(QDialog* ventana);
 
 // Abre un documento de la Peña en el visor de informes, junto a la ventana que lo pide.
 void AbrirEnVisor(QWidget* madre, const EntornoPena& entorno, const QString& titulo,

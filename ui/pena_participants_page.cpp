@@ -13,6 +13,7 @@
 #include "base/text1252.h"
 #include "syndicates/ledger.h"
 #include "syndicates/participants.h"
+#include "ui/pena_context.h"
 #include "ui/pena_import_window.h"
 #include "ui/qt_text.h"
 #include "ui/season_window_parts.h"
@@ -183,10 +184,8 @@ void PaginaApostantesPena::Importar() {
         if (!participes) return;
         auto* ventana =
             new VentanaImportarParticipes(pena_, std::move(*participes), dialogo_, this);
-        ventana->setAttribute(Qt::WA_DeleteOnClose);
         connect(ventana, &VentanaImportarParticipes::importados, this, [this] { Hecho(true); });
-        ventana->setWindowModality(Qt::WindowModal);
-        ventana->open();
+        AbrirSobre(ventana);
     });
 }
 

@@ -18,16 +18,6 @@
 
 namespace quinteva::ui {
 
-namespace {
-
-void Abrir(QDialog* ventana) {
-    ventana->setAttribute(Qt::WA_DeleteOnClose);
-    ventana->setWindowModality(Qt::WindowModal);
-    ventana->open();
-}
-
-}  // namespace
-
 VentanaPena::VentanaPena(syndicates::ArchivosPena pena, EntornoPena entorno, QWidget* madre)
     : QDialog(madre), pena_(std::move(pena)), entorno_(std::move(entorno)) {
     setObjectName(QStringLiteral("VentanaPena"));
@@ -77,7 +67,7 @@ VentanaPena::VentanaPena(syndicates::ArchivosPena pena, EntornoPena entorno, QWi
     boton(QStringLiteral("Datos de la Peña"), "BotonDatosPena", [this] {
         auto* datos = new VentanaDatosPena(entorno_.carpetaTrabajo, pena_, entorno_.dialogo, this);
         connect(datos, &VentanaDatosPena::guardada, this, &VentanaPena::Titulo);
-        Abrir(datos);
+        AbrirSobre(datos);
     });
     boton(QStringLiteral("Copia de Seguridad"), "BotonCopiaSeguridad", [this] {
         ConAviso(entorno_.dialogo, [this] {
@@ -115,7 +105,7 @@ void VentanaPena::Documento(const QString& titulo, outputs::Impresion paginas,
 void VentanaPena::InformePena() {
     ConAviso(entorno_.dialogo, [this] {
         const auto cuentas = syndicates::CuentasDePena(pena_.LeerJornadas());
-        Abrir(new VentanaCuentas(
+        AbrirSobre(new VentanaCuentas(
             QStringLiteral("Informe Peña"), {Q(base::Recortar(pena_.LeerPena().nombre))}, cuentas,
             true,
             [this, cuentas] {
@@ -135,7 +125,7 @@ void VentanaPena::DetalleApostante() {
     }
     ConAviso(entorno_.dialogo, [this, elegido] {
         const auto a = pena_.LeerApostantes().at(*elegido);
-        Abrir(new VentanaCuentas(
+        AbrirSobre(new VentanaCuentas(
             QStringLiteral("Detalle de Jornadas"),
             {Q(base::Recortar(a.nombre)), QStringLiteral("DNI: ") + Q(base::Recortar(a.nif))},
             syndicates::CuentasDeApostante(a), false,
