@@ -6,7 +6,8 @@ namespace quinteva::builders {
 
 ResultadoReducir Reducir(engine::Combinacion& comb, const std::filesystem::path& carpetaTrabajo,
                          int opcion, const SeleccionPartidos& seleccion, ClaseBase& clases,
-                         base::Progreso& progreso, const base::Ajustes& ajustes) {
+                         base::Progreso& progreso, const base::Ajustes& ajustes,
+                         const std::optional<engine::OpcionesOptimizada>& optimizada) {
     if (opcion < 0 || opcion > 3) throw base::Error("Opción de reducción no válida");
     ResultadoReducir r;
     if (opcion == 3) {
@@ -14,7 +15,11 @@ ResultadoReducir Reducir(engine::Combinacion& comb, const std::filesystem::path&
         return r;
     }
     const int distancia = opcion + 1;
-    if (comb.numCondiciones == 0) {
+    if (optimizada) {
+        r.optimizada = engine::ReducirOptimizado(comb, carpetaTrabajo, distancia, *optimizada,
+                                                 progreso, ajustes);
+        r.reduccion = r.optimizada->reduccion;
+    } else if (comb.numCondiciones == 0) {
         const ResultadoTablas tablas = ReducirPorTablas(comb, carpetaTrabajo, 14 - distancia,
                                                         seleccion, clases, progreso, ajustes);
         r.reduccion = tablas.reduccion;

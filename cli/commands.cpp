@@ -190,11 +190,13 @@ std::span<const Subcomando> Subcomandos() {
          {{"columna"}, {}},
          &Analizar},
         {"reducir",
-         "reducir RUTA.uxd --al 13|12|11 [--partidos 2,5,9] [--carpeta DIR] [--json]",
+         "reducir RUTA.uxd --al 13|12|11 [--partidos 2,5,9] [--optimizada [--segundos S] "
+         "[--semilla N]] [--carpeta DIR] [--json]",
          "Reduce las columnas generadas como \"&Reducir\" (por tablas sin condiciones, si no por "
          "recubrimiento; --partidos elige los partidos de la reducción por tablas), guarda y "
-         "muestra la cuenta.",
-         {{"al", "partidos"}, {}},
+         "muestra la cuenta. Con --optimizada, la \"Reducción optimizada\" (S segundos de "
+         "búsqueda, 10 por defecto) y cuántas columnas ahorra.",
+         {{"al", "partidos", "segundos", "semilla"}, {"optimizada"}},
          &ReducirCmd},
         {"tablas",
          "tablas [--json] | tablas --sistema NIVEL TRIPLES DOBLES",

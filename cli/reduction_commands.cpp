@@ -16,7 +16,8 @@ namespace quinteva::cli {
 namespace {
 
 constexpr std::string_view kUsoReducir =
-    "reducir RUTA.uxd --al 13|12|11 [--partidos 2,5,9] [--carpeta DIR] [--json]";
+    "reducir RUTA.uxd --al 13|12|11 [--partidos 2,5,9] [--optimizada [--segundos S] [--semilla N]] "
+    "[--carpeta DIR] [--json]";
 constexpr std::string_view kUsoTablas = "tablas [--json] | tablas --sistema NIVEL TRIPLES DOBLES";
 
 int Entero(const std::string& texto, std::string_view uso) {
@@ -40,6 +41,29 @@ builders::SeleccionPartidos Seleccion(const std::optional<std::string>& texto) {
         elegidos[static_cast<std::size_t>(p - 1)] = true;
     }
     return elegidos;
+}
+
+// --optimizada con sus --segundos (más de 0) y --semilla.
+std::optional<engine::OpcionesOptimizada> Optimizada(const Argumentos& a) {
+    if (!a.Marca("optimizada")) {
+        if (a.Valor("segundos") || a.Valor("semilla")) {
+            throw ErrorDeUso{"--segundos y --semilla van con --optimizada"};
+        }
+        return std::nullopt;
+    }
+    engine::OpcionesOptimizada opciones;
+    if (const auto segundos = a.Valor("segundos")) {
+        try {
+            std::size_t fin = 0;
+            opciones.segundos = std::stod(*segundos, &fin);
+            if (fin != segundos->size() || !(opciones.segundos > 0))
+                throw std::invalid_argument("");
+        } catch (const std::exception&) {
+            throw ErrorDeUso{"--segundos es un número mayor que 0: " + *segundos};
+        }
+    }
+    opciones.semilla = a.Semilla().value_or(opciones.semilla);
+    return opciones;
 }
 
 void EscribirTabla(bool json, std::ostream& salida) {
@@ -74,6 +98,7 @@ int ReducirCmd(const Argumentos& a, std::ostream& salida) {
     const int nivel = Entero(*al, kUsoReducir);
     if (nivel < 11 || nivel > 13) throw ErrorDeUso{"--al es 13, 12 u 11"};
     const auto seleccion = Seleccion(a.Valor("partidos"));
+    const auto optimizada = Optimizada(a);
 
     const base::AjustesIni ajustes(a.CarpetaTrabajo());
     const CarpetaDeAlmacenes trabajo(a);
@@ -85,15 +110,19 @@ int ReducirCmd(const Argumentos& a, std::ostream& salida) {
     }
     builders::ClaseBase clases{};
     base::SinProgreso progreso;
-    const auto r =
-        builders::Reducir(c, trabajo.Ruta(), 13 - nivel, seleccion, clases, progreso, ajustes);
+    const auto r = builders::Reducir(c, trabajo.Ruta(), 13 - nivel, seleccion, clases, progreso,
+                                     ajustes, optimizada);
     engine::Guardar(c, trabajo.Ruta(), ajustes);
 
     if (a.Json()) {
         salida << "{\"NivelReducida\": " << int{c.nivelReducida}
                << ", \"TotalReducidas\": " << c.totalReducidas
-               << ", \"SinSistema\": " << (r.sinSistema ? "true" : "false")
-               << ", \"PorTablas\": " << (c.numCondiciones == 0 ? "true" : "false") << "}\n";
+               << ", \"SinSistema\": " << (r.sinSistema ? "true" : "false") << ", \"PorTablas\": "
+               << (c.numCondiciones == 0 && !r.optimizada ? "true" : "false");
+        if (r.optimizada) salida << ", \"Voraz\": " << r.optimizada->voraz;
+        salida << "}\n";
+    } else if (r.optimizada) {
+        salida << engine::MensajeOptimizada(*r.optimizada) << '\n';
     } else if (r.sinSistema) {
         salida << "No hay reducción por tablas para esta base al " << nivel << '\n';
     } else {

@@ -1,109 +1,90 @@
 #include "engine/optimized_cover.h"
 
 #include <algorithm>
-#include <array>
-#include <queue>
+#include <chrono>
 #include <utility>
 
-#include "engine/column_code.h"
+#include "engine/cover_search.h"
+#include "engine/neighbourhoods.h"
 
 namespace quinteva::engine {
 
 namespace {
 
-constexpr int kPosiciones = 14;
-
-// 3 elevado a la posición de cada partido en el código: el partido 1 es la cifra más alta.
-constexpr std::array<std::int32_t, kPosiciones> kPeso = [] {
-    std::array<std::int32_t, kPosiciones> peso{};
-    std::int32_t p = 1;
-    for (int i = kPosiciones - 1; i >= 0; --i) {
-        peso[static_cast<std::size_t>(i)] = p;
-        p *= 3;
-    }
-    return peso;
-}();
-
-// Las columnas y su índice por código, para ver cuáles del entorno de una están entre ellas.
-class Entornos {
+// El tiempo de la búsqueda y "&Detener": se mira cada tantas vueltas.
+class Plazo {
   public:
-    explicit Entornos(std::span<const std::int32_t> codigos)
-        : codigos_(codigos), indice_(static_cast<std::size_t>(kCodigosColumna), -1) {
-        for (std::size_t i = 0; i < codigos.size(); ++i) {
-            indice_[static_cast<std::size_t>(codigos[i])] = static_cast<std::int32_t>(i);
-        }
-    }
+    Plazo(double segundos, base::Progreso& progreso)
+        : limite_(std::chrono::duration_cast<std::chrono::steady_clock::duration>(
+              std::chrono::duration<double>(segundos))),
+          progreso_(progreso) {}
 
-    // Llama f(j) por cada columna j a "radio" o menos de la columna i (ella incluida).
-    template <typename F>
-    void Cada(std::size_t i, int radio, F&& f) const {
-        std::array<int, kPosiciones> cifras{};
-        std::int32_t c = codigos_[i];
-        for (int p = kPosiciones - 1; p >= 0; --p) {
-            cifras[static_cast<std::size_t>(p)] = c % 3;
-            c /= 3;
-        }
-        Recorrer(codigos_[i], cifras, 0, radio, f);
+    bool Acabado() {
+        if (++vueltas_ % kVueltasPorMirada != 0) return acabado_;
+        const auto gastado = std::chrono::steady_clock::now() - inicio_;
+        progreso_.Avance(std::min<std::int64_t>(Milesimas(gastado), Milesimas(limite_)),
+                         Milesimas(limite_));
+        detenido_ = progreso_.Detenido();
+        acabado_ = detenido_ || gastado >= limite_;
+        return acabado_;
     }
+    bool Detenido() const { return detenido_; }
 
   private:
-    template <typename F>
-    void Recorrer(std::int32_t codigo, const std::array<int, kPosiciones>& cifras, int desde,
-                  int quedan, F& f) const {
-        const std::int32_t j = indice_[static_cast<std::size_t>(codigo)];
-        if (j >= 0) f(static_cast<std::size_t>(j));
-        if (quedan == 0) return;
-        for (int p = desde; p < kPosiciones; ++p) {
-            const auto u = static_cast<std::size_t>(p);
-            for (int otra = 0; otra < 3; ++otra) {
-                if (otra == cifras[u]) continue;
-                Recorrer(codigo + (otra - cifras[u]) * kPeso[u], cifras, p + 1, quedan - 1, f);
-            }
-        }
+    static constexpr std::int64_t kVueltasPorMirada = 64;
+    static std::int64_t Milesimas(std::chrono::steady_clock::duration d) {
+        return std::max<std::int64_t>(
+            1, std::chrono::duration_cast<std::chrono::milliseconds>(d).count());
     }
 
-    std::span<const std::int32_t> codigos_;
-    std::vector<std::int32_t> indice_;
+    std::chrono::steady_clock::time_point inicio_ = std::chrono::steady_clock::now();
+    std::chrono::steady_clock::duration limite_;
+    base::Progreso& progreso_;
+    std::int64_t vueltas_ = 0;
+    bool acabado_ = false;
+    bool detenido_ = false;
 };
 
-// La voraz perezosa: la que más cubre de lo que falta; a igual ganancia, la primera.
-std::vector<std::size_t> Voraz(const Entornos& entornos, std::size_t n, int radio) {
-    std::vector<char> cubierta(n, 0);
-    std::priority_queue<std::pair<std::int64_t, std::int64_t>> cola;
-    for (std::size_t i = 0; i < n; ++i) {
-        std::int64_t ganancia = 0;
-        entornos.Cada(i, radio, [&](std::size_t) { ++ganancia; });
-        cola.emplace(ganancia, -static_cast<std::int64_t>(i));
+// La voraz por la que más cubre de lo que falta. La ganancia de cada columna (las de su entorno
+// aún sin cubrir) baja en uno por cada vecina que se cubre; las columnas esperan en cubos por
+// ganancia, y la que sale de un cubo que ya no es el suyo vuelve al suyo. Vacía si se acaba el
+// plazo antes.
+std::vector<std::size_t> Voraz(const Entornos& entornos, int radio, Plazo& plazo) {
+    auto ganancia = entornos.Cuentas(radio);
+    std::int32_t alta = *std::max_element(ganancia.begin(), ganancia.end());
+    std::vector<std::vector<std::size_t>> cubos(static_cast<std::size_t>(alta) + 1);
+    for (std::size_t i = entornos.Tamano(); i-- > 0;) {
+        cubos[static_cast<std::size_t>(ganancia[i])].push_back(i);
     }
-    std::size_t faltan = n;
+    std::vector<char> cubierta(entornos.Tamano(), 0);
+    std::size_t faltan = entornos.Tamano();
     std::vector<std::size_t> elegidas;
-    while (faltan > 0 && !cola.empty()) {
-        const auto [antes, menosI] = cola.top();
-        cola.pop();
-        const auto i = static_cast<std::size_t>(-menosI);
-        std::int64_t ganancia = 0;
-        entornos.Cada(i, radio, [&](std::size_t j) { ganancia += cubierta[j] ? 0 : 1; });
-        if (ganancia == 0) continue;
-        if (ganancia < antes) {
-            cola.emplace(ganancia, menosI);
+    while (faltan > 0) {
+        if (plazo.Acabado()) return {};
+        while (cubos[static_cast<std::size_t>(alta)].empty()) --alta;
+        auto& cubo = cubos[static_cast<std::size_t>(alta)];
+        const std::size_t i = cubo.back();
+        cubo.pop_back();
+        if (ganancia[i] != alta) {
+            cubos[static_cast<std::size_t>(ganancia[i])].push_back(i);
             continue;
         }
         elegidas.push_back(i);
         entornos.Cada(i, radio, [&](std::size_t j) {
-            if (!cubierta[j]) {
-                cubierta[j] = 1;
-                --faltan;
-            }
+            if (cubierta[j]) return;
+            cubierta[j] = 1;
+            --faltan;
+            entornos.Cada(j, radio, [&](std::size_t c) { --ganancia[c]; });
         });
     }
     return elegidas;
 }
 
 // La voraz del orden dado: cada columna que aún no está cubierta se queda.
-std::vector<std::size_t> EnOrden(const Entornos& entornos, std::size_t n, int radio) {
-    std::vector<char> cubierta(n, 0);
+std::vector<std::size_t> EnOrden(const Entornos& entornos, int radio) {
+    std::vector<char> cubierta(entornos.Tamano(), 0);
     std::vector<std::size_t> elegidas;
-    for (std::size_t i = 0; i < n; ++i) {
+    for (std::size_t i = 0; i < entornos.Tamano(); ++i) {
         if (cubierta[i]) continue;
         elegidas.push_back(i);
         entornos.Cada(i, radio, [&](std::size_t j) { cubierta[j] = 1; });
@@ -112,9 +93,8 @@ std::vector<std::size_t> EnOrden(const Entornos& entornos, std::size_t n, int ra
 }
 
 // Quita, de la última a la primera, las elegidas cuyo entorno queda cubierto por otras.
-void QuitarSobrantes(const Entornos& entornos, std::size_t n, int radio,
-                     std::vector<std::size_t>& elegidas) {
-    std::vector<std::int32_t> veces(n, 0);
+void QuitarSobrantes(const Entornos& entornos, int radio, std::vector<std::size_t>& elegidas) {
+    std::vector<std::int32_t> veces(entornos.Tamano(), 0);
     for (const std::size_t e : elegidas)
         entornos.Cada(e, radio, [&](std::size_t j) { ++veces[j]; });
     std::vector<std::size_t> quedan;
@@ -132,16 +112,28 @@ void QuitarSobrantes(const Entornos& entornos, std::size_t n, int radio,
 
 }  // namespace
 
-std::vector<std::size_t> CubrirOptimizado(std::span<const std::int32_t> codigos, int radio) {
+RecubrimientoOptimizado CubrirOptimizado(std::span<const std::int32_t> codigos, int radio,
+                                         const OpcionesOptimizada& opciones,
+                                         base::Progreso& progreso) {
+    RecubrimientoOptimizado resultado;
+    if (codigos.empty()) return resultado;
     const Entornos entornos(codigos);
-    // Las dos voraces, sin las que sobran; la menor (así nunca es más que la del orden dado).
-    auto porGanancia = Voraz(entornos, codigos.size(), radio);
-    auto enOrden = EnOrden(entornos, codigos.size(), radio);
-    QuitarSobrantes(entornos, codigos.size(), radio, porGanancia);
-    QuitarSobrantes(entornos, codigos.size(), radio, enOrden);
-    auto& elegidas = porGanancia.size() <= enOrden.size() ? porGanancia : enOrden;
-    std::sort(elegidas.begin(), elegidas.end());
-    return elegidas;
+    Plazo plazo(opciones.segundos, progreso);
+    auto mejor = EnOrden(entornos, radio);
+    QuitarSobrantes(entornos, radio, mejor);
+    auto porGanancia = Voraz(entornos, radio, plazo);
+    if (!porGanancia.empty()) {
+        QuitarSobrantes(entornos, radio, porGanancia);
+        if (porGanancia.size() < mejor.size()) mejor = std::move(porGanancia);
+    }
+    BusquedaLocal busqueda(entornos, radio, mejor, opciones.semilla);
+    for (std::size_t sinMenguar = 0; sinMenguar < opciones.paciencia * busqueda.Tamano();) {
+        if (plazo.Acabado()) break;
+        sinMenguar = busqueda.Paso() ? 0 : sinMenguar + 1;
+    }
+    resultado.elegidas = busqueda.Elegidas();
+    resultado.detenida = plazo.Detenido();
+    return resultado;
 }
 
 }  // namespace quinteva::engine

@@ -5,15 +5,32 @@
 #include <span>
 #include <vector>
 
+#include "base/progress.h"
+
 namespace quinteva::engine {
 
+struct OpcionesOptimizada {
+    double segundos = 10.0;  // el tiempo de la búsqueda
+    std::uint64_t semilla = 1;
+    // Cuántos cambios sin menguar, por cada elegida, dan la búsqueda por acabada.
+    std::size_t paciencia = 500;
+};
+
+struct RecubrimientoOptimizado {
+    std::vector<std::size_t> elegidas;  // índices de las que se quedan, en orden
+    bool detenida = false;              // se paró con "&Detener": es el mejor hallado hasta ahí
+};
+
 // "Reducción optimizada": entre unas columnas (sus códigos, distintos y válidos), unas pocas que
-// las cubren todas a "radio" signos o menos. Primero la voraz por la que más cubre de lo que
-// falta (con ganancias perezosas: una ganancia solo se recalcula al salir la primera de la cola),
-// y luego se quitan, de la última elegida a la primera, las que sobran; lo mismo desde la voraz
-// del orden dado, y se queda la menor de las dos. Devuelve los índices de las que se quedan, en
-// orden. Siempre es un recubrimiento, nunca mayor que la voraz del orden dado, y el mismo para
-// las mismas columnas.
-std::vector<std::size_t> CubrirOptimizado(std::span<const std::int32_t> codigos, int radio);
+// las cubren todas a "radio" signos o menos. Se parte de la voraz del orden dado y de la voraz
+// por la que más cubre de lo que falta (con ganancias perezosas: una ganancia solo se recalcula
+// al salir la primera de la cola), cada una sin las que sobran; desde la menor, la búsqueda local
+// cambia elegidas una por una hasta que pasan "paciencia" cambios por elegida sin menguar, se acaba
+// el tiempo o se pide "&Detener". Siempre es un recubrimiento y nunca mayor que la voraz del orden
+// dado; con la misma semilla y acabando antes del tiempo, el mismo. Progreso avanza con el tiempo
+// gastado.
+RecubrimientoOptimizado CubrirOptimizado(std::span<const std::int32_t> codigos, int radio,
+                                         const OpcionesOptimizada& opciones,
+                                         base::Progreso& progreso);
 
 }  // namespace quinteva::engine

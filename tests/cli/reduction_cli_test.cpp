@@ -2,6 +2,7 @@
 
 #include "builders/reduction_display.h"
 #include "engine/combination_files.h"
+#include "engine/cover.h"
 #include "tests/cli/cli_runner.h"
 #include "tests/support/temp_folder.h"
 
@@ -42,6 +43,54 @@ TEST(CliReducir, ConPartidosElegidos) {
     const Salida s = EjecutarCli("reducir " + Q(q.uxd) + " --al 13 --partidos 1,2,3" + q.trabajo);
     ASSERT_EQ(s.codigo, 0) << s.errores;
     EXPECT_EQ(s.salida, "Reducida al 13: 64\n");
+}
+
+// Lo que guarda al 13 el recubrimiento voraz de las 729 columnas de seis triples, en el orden de
+// la generación.
+std::size_t VorazDeSeisTriples() {
+    engine::Recubrimiento voraz(1);
+    std::size_t guardadas = 0;
+    for (int n = 0; n < 729; ++n) {
+        std::string columna;
+        for (int p = 5, resto = n; p >= 0; --p, resto /= 3) columna.insert(0, 1, "1X2"[resto % 3]);
+        guardadas += voraz.Considerar(engine::ColumnaDeTexto(columna + "11111111")) ? 1 : 0;
+    }
+    return guardadas;
+}
+
+TEST(CliReducir, OptimizadaCumpleLaGarantiaYDiceCuantasAhorra) {
+    Quiniela q("1X2 1X2 1X2 1X2 1X2 1X2 1 1 1 1 1 1 1 1");
+    ASSERT_EQ(EjecutarCli("generar " + Q(q.uxd) + q.trabajo).codigo, 0);
+    const Salida s = EjecutarCli("reducir " + Q(q.uxd) + " --al 13 --optimizada --segundos 5 " +
+                                 "--semilla 4 --json" + q.trabajo);
+    ASSERT_EQ(s.codigo, 0) << s.errores;
+    const std::size_t voraz = VorazDeSeisTriples();
+    EXPECT_NE(s.salida.find("\"PorTablas\": false, \"Voraz\": " + std::to_string(voraz) + "}"),
+              std::string::npos)
+        << s.salida;
+    const auto reducidas = std::filesystem::file_size(q.carpeta / "J7.red") / 17U;
+    EXPECT_LT(reducidas, voraz);
+    const Salida v = EjecutarCli("verificar " + Q(q.uxd) + " --al 13" + q.trabajo);
+    EXPECT_EQ(v.codigo, 0) << v.salida;
+    const Salida texto = EjecutarCli("reducir " + Q(q.uxd) + " --al 13 --optimizada --segundos 5 " +
+                                     "--semilla 4" + q.trabajo);
+    EXPECT_EQ(texto.salida, "Reducción optimizada: " + std::to_string(reducidas) + " columnas, " +
+                                std::to_string(voraz - reducidas) +
+                                " menos que la reducción sin optimizar (" + std::to_string(voraz) +
+                                ").\n");
+}
+
+TEST(CliReducir, OptimizadaConOpcionesMalPuestas) {
+    Quiniela q("1X2 1X2 1 1 1 1 1 1 1 1 1 1 1 1");
+    ASSERT_EQ(EjecutarCli("generar " + Q(q.uxd) + q.trabajo).codigo, 0);
+    const Salida cero =
+        EjecutarCli("reducir " + Q(q.uxd) + " --al 13 --optimizada --segundos 0" + q.trabajo);
+    EXPECT_EQ(cero.codigo, 2);
+    EXPECT_NE(cero.errores.find("--segundos es un número mayor que 0: 0"), std::string::npos)
+        << cero.errores;
+    const Salida sola = EjecutarCli("reducir " + Q(q.uxd) + " --al 13 --semilla 3" + q.trabajo);
+    EXPECT_EQ(sola.codigo, 2);
+    EXPECT_NE(sola.errores.find("--segundos y --semilla van con --optimizada"), std::string::npos);
 }
 
 TEST(CliReducir, SinSistemaLoDice) {
