@@ -1,6 +1,7 @@
 #include "ui/main_window.h"
 
 #include <QAction>
+#include <QCheckBox>
 #include <QCloseEvent>
 #include <QDialog>
 #include <QDir>
@@ -715,6 +716,7 @@ void VentanaPrincipal::Ocupado(bool ocupado) {
     reducir_->info->setEnabled(false);
     reducir_->detener->setEnabled(ocupado && reduciendo_);
     for (auto* o : reducir_->opciones) o->setEnabled(!ocupado);
+    reducir_->optimizada->setEnabled(!ocupado);
     boletos_->detener->setEnabled(ocupado && ajustando_);
     if (ocupado) {
         for (QWidget* w : std::initializer_list<QWidget*>{
@@ -781,6 +783,7 @@ void VentanaPrincipal::Reducir() {
     peticion.haySeleccion = comb_.numCondiciones == 0 &&
                             std::any_of(seleccionReduccion_.begin(), seleccionReduccion_.end(),
                                         [](bool b) { return b; });
+    peticion.optimizada = reducir_->optimizada->isChecked();
     verContador_ = AjusteActivo(s_.ajustes, "VerR");
     verBarra_ = AjusteActivo(s_.ajustes, "VerBar2");
     reducir_->barra->setRange(0, std::max(1, comb_.totalGeneradas));
@@ -793,8 +796,10 @@ void VentanaPrincipal::Reducir() {
     reduciendo_ = true;
     Ocupado(true);
     Reductor* reductor = s_.reductor;
+    avisoReduccion_.clear();
     trabajo_.Empezar([this, reductor, peticion](base::Progreso& progreso) {
-        reductor->Reducir(comb_, peticion, s_.carpetaTrabajo, progreso, s_.ajustes);
+        avisoReduccion_ =
+            reductor->Reducir(comb_, peticion, s_.carpetaTrabajo, progreso, s_.ajustes);
     });
     refresco_.start();
 }
@@ -808,6 +813,7 @@ void VentanaPrincipal::FinReduccion() {
     Habilitar(kBoletos, comb_.activasReducidas > 0);
     Ocupado(false);
     reducir_->info->setEnabled(comb_.activasReducidas > 0);
+    if (!avisoReduccion_.empty()) s_.dialogo.Mensaje(avisoReduccion_);
     AvisoBoletos();
     SeguirAsistente(comb_.activasReducidas > 0);
 }

@@ -296,6 +296,8 @@ class VentanaPrincipal : public QMainWindow {
     bool verContador_ = true;
     bool verBarra_ = true;
     engine::ResultadoGeneracion resultado_;
+    // Lo que la reducción pide mostrar al acabar (la "Reducción optimizada", lo que ahorra).
+    std::string avisoReduccion_;
 };
 
 }  // namespace quinteva::ui

@@ -6,14 +6,17 @@
 
 namespace quinteva::ui {
 
-void ReductorDelPrograma::Reducir(engine::Combinacion& combinacion,
-                                  const PeticionReduccion& peticion,
-                                  const std::filesystem::path& carpetaTrabajo,
-                                  base::Progreso& progreso, const base::Ajustes& ajustes) {
+std::string ReductorDelPrograma::Reducir(engine::Combinacion& combinacion,
+                                         const PeticionReduccion& peticion,
+                                         const std::filesystem::path& carpetaTrabajo,
+                                         base::Progreso& progreso, const base::Ajustes& ajustes) {
     builders::SeleccionPartidos seleccion;
     if (peticion.haySeleccion) seleccion = peticion.seleccion;
-    builders::Reducir(combinacion, carpetaTrabajo, peticion.nivel, seleccion, clases_, progreso,
-                      ajustes);
+    std::optional<engine::OpcionesOptimizada> optimizada;
+    if (peticion.optimizada) optimizada.emplace();
+    const auto r = builders::Reducir(combinacion, carpetaTrabajo, peticion.nivel, seleccion,
+                                     clases_, progreso, ajustes, optimizada);
+    return r.optimizada ? engine::MensajeOptimizada(*r.optimizada) : std::string();
 }
 
 std::vector<FilaTablaReducciones> ReductorDelPrograma::TablaReducciones() const {

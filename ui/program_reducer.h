@@ -9,9 +9,9 @@ namespace quinteva::ui {
 // la "Tabla de reducciones" fija y las cifras de la ventana "Reducción".
 class ReductorDelPrograma : public Reductor {
   public:
-    void Reducir(engine::Combinacion& combinacion, const PeticionReduccion& peticion,
-                 const std::filesystem::path& carpetaTrabajo, base::Progreso& progreso,
-                 const base::Ajustes& ajustes) override;
+    std::string Reducir(engine::Combinacion& combinacion, const PeticionReduccion& peticion,
+                        const std::filesystem::path& carpetaTrabajo, base::Progreso& progreso,
+                        const base::Ajustes& ajustes) override;
     std::vector<FilaTablaReducciones> TablaReducciones() const override;
     InformeReduccion Informe(std::int32_t reducidas, double totalApuestas) const override;
 

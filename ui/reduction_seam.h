@@ -17,6 +17,8 @@ struct PeticionReduccion {
     int nivel = 0;
     std::array<bool, engine::kPartidos> seleccion{};
     bool haySeleccion = false;
+    // "Reducción optimizada": menos columnas con la misma garantía.
+    bool optimizada = false;
 };
 
 // Una fila de la ventana "Tabla de reducciones": la etiqueta de "Combinaciones" y las tres cifras
@@ -40,13 +42,14 @@ struct InformeReduccion {
 
 // La reducción vista desde la ventana: la pone quien tiene los sistemas reducidos y la cobertura.
 // Reducir corre en el hilo de trabajo: lee "Cmb.tmp", escribe "Red.tmp" y deja en la Combinación
-// las cuentas, la fila del nivel en el panel, el precio y NivelReducida.
+// las cuentas, la fila del nivel en el panel, el precio y NivelReducida. Devuelve el aviso que la
+// ventana muestra al acabar (vacío si no hay).
 class Reductor {
   public:
     virtual ~Reductor() = default;
-    virtual void Reducir(engine::Combinacion& combinacion, const PeticionReduccion& peticion,
-                         const std::filesystem::path& carpetaTrabajo, base::Progreso& progreso,
-                         const base::Ajustes& ajustes) = 0;
+    virtual std::string Reducir(engine::Combinacion& combinacion, const PeticionReduccion& peticion,
+                                const std::filesystem::path& carpetaTrabajo,
+                                base::Progreso& progreso, const base::Ajustes& ajustes) = 0;
     virtual std::vector<FilaTablaReducciones> TablaReducciones() const = 0;
     virtual InformeReduccion Informe(std::int32_t reducidas, double totalApuestas) const = 0;
 };

@@ -1,6 +1,7 @@
 #include "ui/work_pages.h"
 
 #include <QButtonGroup>
+#include <QCheckBox>
 #include <QFormLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -107,6 +108,12 @@ PaginaReducir::PaginaReducir(QWidget* madre) : QWidget(madre) {
     }
     opciones[0]->setChecked(true);
     opciones[3]->setVisible(false);
+    optimizada = new QCheckBox(QStringLiteral("Reducción optimizada"), niveles);
+    optimizada->setObjectName(QStringLiteral("ReduccionOptimizada"));
+    optimizada->setToolTip(QStringLiteral(
+        "Busca durante unos segundos menos columnas con la misma garantía; \"&Detener\" se "
+        "queda con la mejor hallada"));
+    cajaNiveles->addWidget(optimizada);
     izquierda->addWidget(niveles);
     auto* formulario = new QFormLayout;
     total = CifraConRotulo(this, formulario, QStringLiteral("Total Apuestas"),

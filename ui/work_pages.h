@@ -3,6 +3,7 @@
 #include <QWidget>
 #include <array>
 
+class QCheckBox;
 class QFormLayout;
 class QLabel;
 class QLineEdit;
@@ -46,6 +47,7 @@ class PaginaReducir : public QWidget {
     int Nivel() const;
 
     std::array<QRadioButton*, 4> opciones{};
+    QCheckBox* optimizada;
     QLabel* rotuloSeleccion;
     QTableWidget* seleccion;
     QLabel* total;

@@ -1,3 +1,4 @@
+#include <QCheckBox>
 #include <QDialog>
 #include <QRadioButton>
 #include <QtTest>
@@ -45,6 +46,15 @@ bool Cubre(const std::vector<engine::Columna>& reducidas,
             return distintos <= distancia;
         });
     });
+}
+
+// Lo que guarda al 13 el recubrimiento voraz columna a columna.
+int VorazAlTrece(const std::vector<engine::Columna>& desarrollo) {
+    std::vector<engine::Columna> guardadas;
+    for (const auto& c : desarrollo) {
+        if (!Cubre(guardadas, {c}, 1)) guardadas.push_back(c);
+    }
+    return static_cast<int>(guardadas.size());
 }
 
 void Elegir(ui::VentanaPrincipal& v, const char* opcion) {
@@ -97,6 +107,40 @@ class PruebaReduccion : public QObject {
         QVERIFY(!fs::exists(p.inst.trabajo / engine::kRedTmp));
         QCOMPARE(pruebas::TextoDe(*v, "EtiquetaAl12"), QString());
         QVERIFY(p.inst.dialogo.Registro().empty());
+    }
+
+    // La "Reducción optimizada" sobre las 36 columnas: cubre igual al 13 y avisa de lo que ahorra
+    // frente a la voraz columna a columna.
+    void LaReduccionOptimizadaCubreYDiceCuantasAhorra() {
+        ProgramaReal p;
+        auto v = p.Ventana();
+        pruebas::ElegirJornada(*v, 25);
+        pruebas::BaseDeEjemplo(*v);
+        pruebas::Pagina(*v, ui::kGenerar);
+        QTest::mouseClick(pruebas::Hijo<QPushButton>(*v, QStringLiteral("BotonGenerar")),
+                          Qt::LeftButton);
+        pruebas::EsperarTrabajo(*v);
+        const auto desarrollo = Columnas(p.inst.trabajo / engine::kCmbTmp);
+        pruebas::Pagina(*v, ui::kReducir);
+        auto* optimizada = pruebas::Hijo<QCheckBox>(*v, QStringLiteral("ReduccionOptimizada"));
+        QVERIFY(!optimizada->isChecked());
+        optimizada->click();
+        Elegir(*v, "OpcionAl13");
+        Reducir(*v);
+        const auto reducidas = Columnas(p.inst.trabajo / engine::kRedTmp);
+        const int cuantas = v->Combinacion().activasReducidas;
+        QCOMPARE(static_cast<int>(reducidas.size()), cuantas);
+        QVERIFY(Cubre(reducidas, desarrollo, 1));
+        QCOMPARE(pruebas::TextoDe(*v, "EtiquetaAl13"), QStringLiteral(" %1").arg(cuantas));
+        const auto textos = p.inst.dialogo.Textos();
+        QCOMPARE(textos.size(), std::size_t{1});
+        const QString aviso = QString::fromStdString(textos[0]);
+        QVERIFY2(
+            aviso.startsWith(QStringLiteral("Reducción optimizada: %1 columnas, ").arg(cuantas)),
+            qPrintable(aviso));
+        QVERIFY2(aviso.endsWith(QStringLiteral(" menos que la reducción sin optimizar (%1).")
+                                    .arg(VorazAlTrece(desarrollo))),
+                 qPrintable(aviso));
     }
 
     void LaTablaDeReduccionesMuestraSusSetentaYTresFilas() {

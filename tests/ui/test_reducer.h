@@ -1,6 +1,7 @@
 #pragma once
 
 #include <fstream>
+#include <string>
 #include <vector>
 
 #include "base/record_files.h"
@@ -14,9 +15,9 @@ namespace quinteva::pruebas {
 // sea cual sea la base; la tabla y el informe son los del programa.
 class ReductorDePrueba : public ui::ReductorDelPrograma {
   public:
-    void Reducir(engine::Combinacion& comb, const ui::PeticionReduccion& peticion,
-                 const std::filesystem::path& carpeta, base::Progreso& progreso,
-                 const base::Ajustes&) override {
+    std::string Reducir(engine::Combinacion& comb, const ui::PeticionReduccion& peticion,
+                        const std::filesystem::path& carpeta, base::Progreso& progreso,
+                        const base::Ajustes&) override {
         const int distancia = peticion.nivel + 1;
         const base::ArchivoDe<engine::RegistroColumna> cmb(carpeta / engine::kCmbTmp);
         std::vector<engine::Columna> pendientes;
@@ -44,6 +45,7 @@ class ReductorDePrueba : public ui::ReductorDelPrograma {
         comb.panel.reducidas[static_cast<std::size_t>(peticion.nivel)] = comb.activasReducidas;
         comb.nivelReducida = static_cast<std::uint8_t>(peticion.nivel);
         ++reducciones;
+        return {};
     }
 
     int reducciones = 0;
