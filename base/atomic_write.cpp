@@ -4,6 +4,7 @@
 #include <cstdio>
 #include <memory>
 #include <system_error>
+#include <vector>
 
 #include "base/error.h"
 #include "base/record_files.h"
@@ -65,6 +66,37 @@ void CopiarAtomico(const std::filesystem::path& origen, const std::filesystem::p
         errno = error.value();
         FalloDeArchivo(temporal);
     }
+    Reemplazar(temporal, ruta);
+}
+
+void CopiarAtomicoViendo(const std::filesystem::path& origen, const std::filesystem::path& ruta,
+                         const VerTrozo& ver) {
+    std::unique_ptr<std::FILE, int (*)(std::FILE*)> entrada(std::fopen(origen.c_str(), "rb"),
+                                                            &std::fclose);
+    if (!entrada) FalloDeArchivo(origen);
+    const auto temporal = RutaTemporalJunto(ruta);
+    std::unique_ptr<std::FILE, int (*)(std::FILE*)> salida(std::fopen(temporal.c_str(), "wb"),
+                                                           &std::fclose);
+    if (!salida) FalloDeArchivo(temporal);
+    auto fallo = [&](const std::filesystem::path& culpable) {
+        const int causa = errno;
+        salida.reset();
+        std::error_code ignorado;
+        std::filesystem::remove(temporal, ignorado);
+        errno = causa;
+        FalloDeArchivo(culpable);
+    };
+    std::vector<unsigned char> trozo(1 << 20);
+    while (true) {
+        const std::size_t leidos = std::fread(trozo.data(), 1, trozo.size(), entrada.get());
+        if (leidos == 0) break;
+        ver({trozo.data(), leidos});
+        if (!VolcarEnDisco(salida.get(), {reinterpret_cast<const char*>(trozo.data()), leidos})) {
+            fallo(temporal);
+        }
+    }
+    if (std::ferror(entrada.get())) fallo(origen);
+    if (std::fclose(salida.release()) != 0) fallo(temporal);
     Reemplazar(temporal, ruta);
 }
 

@@ -4,6 +4,7 @@
 #include <cstdio>
 #include <filesystem>
 #include <functional>
+#include <span>
 #include <string_view>
 
 namespace quinteva::base {
@@ -22,6 +23,12 @@ void EscribirAtomico(const std::filesystem::path& ruta, std::string_view conteni
 // su lado, que el sistema copia sin pasar por la memoria del programa, y un renombrado.
 void CopiarAtomico(const std::filesystem::path& origen, const std::filesystem::path& ruta,
                    std::uintmax_t bytes);
+
+// Copia el archivo entero a ruta como CopiarAtomico, leyéndolo una sola vez por trozos: "ver"
+// recibe cada trozo antes de que se escriba (para contar o resumir de paso).
+using VerTrozo = std::function<void(std::span<const unsigned char> trozo)>;
+void CopiarAtomicoViendo(const std::filesystem::path& origen, const std::filesystem::path& ruta,
+                         const VerTrozo& ver);
 
 // Borra el archivo si está; Error "No se pudo borrar ..." si no se pudo.
 void BorrarArchivo(const std::filesystem::path& ruta);

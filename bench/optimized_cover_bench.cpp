@@ -64,13 +64,17 @@ std::vector<engine::Columna> Condicionado(int triples, int dobles, std::uint64_t
     base.PonerGoles("1", "0");
     engine::SetCondiciones condiciones = engine::CondicionesIniciales(base);
     condiciones.casilla[engine::kCasillaGenerales] = true;
-    auto limites = [&](std::uint8_t& min, std::uint8_t& max) {
-        const int centro = (triples + dobles) / 3 + 1;
-        min = static_cast<std::uint8_t>(std::max(0, centro - 1 - static_cast<int>(azar() % 3)));
-        max = static_cast<std::uint8_t>(centro + 1 + static_cast<int>(azar() % 3));
+    // Alrededor de lo que se espera de cada signo con los signos de la base.
+    auto limites = [&](char signo, std::uint8_t& min, std::uint8_t& max) {
+        double media = 0;
+        for (const auto& s : signos)
+            media += s.find(signo) != std::string::npos ? 1.0 / s.size() : 0;
+        min = static_cast<std::uint8_t>(
+            std::max(0, static_cast<int>(media) - 1 - static_cast<int>(azar() % 2)));
+        max = static_cast<std::uint8_t>(static_cast<int>(media) + 2 + static_cast<int>(azar() % 2));
     };
-    limites(condiciones.minEquis, condiciones.maxEquis);
-    limites(condiciones.minDoses, condiciones.maxDoses);
+    limites('X', condiciones.minEquis, condiciones.maxEquis);
+    limites('2', condiciones.minDoses, condiciones.maxDoses);
     const engine::Filtro filtro(condiciones);
     engine::Rechazos rechazos;
     return Desarrollo(signos,

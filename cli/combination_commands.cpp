@@ -190,9 +190,9 @@ int GenerarCmd(const Argumentos& a, std::ostream& salida) {
     const CarpetaDeAlmacenes almacenes(a);
     auto ajustes = AjustesDe(a.CarpetaTrabajo());
     Combinacion c;
-    // Como Abrir, sin tocar la lista de recientes.
+    // Como Abrir, sin tocar la lista de recientes; las columnas que había no hacen falta.
     c.ruta = ruta;
-    Abrir(c, almacenes.Ruta(), ajustes);
+    AbrirParaGenerar(c, ajustes);
     base::SinProgreso progreso;
     Generar(c, almacenes.Ruta(), progreso, ajustes);
     Guardar(c, almacenes.Ruta(), ajustes);

@@ -12,6 +12,7 @@
 #include "base/error.h"
 #include "base/formats.h"
 #include "base/record_files.h"
+#include "base/same_content.h"
 #include "base/text1252.h"
 
 namespace quinteva::engine {
@@ -197,7 +198,7 @@ std::vector<Byte> LeerTodo(const std::filesystem::path& ruta) {
 }
 
 // Copia los primeros "registros" registros de un almacén a un archivo, por un temporal que se
-// renombra encima.
+// renombra encima, salvo que el archivo ya tenga exactamente esos bytes.
 void CopiarRegistros(const std::filesystem::path& origen, std::int32_t registros,
                      const std::filesystem::path& destino) {
     const auto bytes = static_cast<std::uintmax_t>(registros) * RegistroColumna::kLongitud;
@@ -208,6 +209,7 @@ void CopiarRegistros(const std::filesystem::path& origen, std::int32_t registros
     if (!std::filesystem::exists(origen) || Longitud(origen) < bytes) {
         throw base::Error("Faltan columnas en " + origen.filename().string());
     }
+    if (base::MismoContenido(origen, destino, bytes)) return;
     base::CopiarAtomico(origen, destino, bytes);
 }
 
@@ -234,21 +236,29 @@ void ComprobarColumnas(const std::filesystem::path& ruta) {
     }
 }
 
-// Copia un archivo de columnas al almacén y devuelve total y activas.
+// Cuenta las activas (el estado es el byte 16 de cada registro de 17) de unos bytes que siguen
+// a "leidos" bytes ya vistos.
+std::int32_t ActivasEn(std::span<const unsigned char> trozo, std::uintmax_t leidos) {
+    std::int32_t activas = 0;
+    const auto enRegistro = static_cast<std::size_t>(leidos % RegistroColumna::kLongitud);
+    std::size_t i = (RegistroColumna::kLongitud + 16 - enRegistro) % RegistroColumna::kLongitud;
+    for (; i < trozo.size(); i += RegistroColumna::kLongitud) {
+        activas += trozo[i] == static_cast<unsigned char>(kActiva) ? 1 : 0;
+    }
+    return activas;
+}
+
+// Copia un archivo de columnas al almacén, leyéndolo una vez, y devuelve total y activas.
 std::pair<std::int32_t, std::int32_t> CargarAlmacen(const std::filesystem::path& origen,
                                                     const std::filesystem::path& almacen) {
-    const auto bytes = LeerTodo(origen);
     std::int32_t activas = 0;
-    for (std::size_t i = 16; i < bytes.size(); i += RegistroColumna::kLongitud) {
-        activas += bytes[i] == static_cast<Byte>(kActiva) ? 1 : 0;
-    }
+    std::uintmax_t leidos = 0;
     std::filesystem::remove(almacen);
-    // Un vector vacío no tiene datos: se escribe un texto vacío de verdad.
-    base::EscribirAtomico(
-        almacen, bytes.empty()
-                     ? std::string_view("")
-                     : std::string_view(reinterpret_cast<const char*>(bytes.data()), bytes.size()));
-    return {static_cast<std::int32_t>(bytes.size() / RegistroColumna::kLongitud), activas};
+    base::CopiarAtomicoViendo(origen, almacen, [&](std::span<const unsigned char> trozo) {
+        activas += ActivasEn(trozo, leidos);
+        leidos += trozo.size();
+    });
+    return {static_cast<std::int32_t>(leidos / RegistroColumna::kLongitud), activas};
 }
 
 }  // namespace
@@ -404,8 +414,11 @@ RegistroCabecera LeerCabecera(const std::filesystem::path& ruta) {
     return RegistroCabecera::DeBytes(LeerTodo(ruta));
 }
 
-void Abrir(Combinacion& comb, const std::filesystem::path& carpetaTrabajo,
-           const base::Ajustes& ajustes) {
+namespace {
+
+// Abrir, con los almacenes de la carpeta de trabajo o, sin ella, sin cargarlos.
+void AbrirEn(Combinacion& comb, const std::filesystem::path* carpetaTrabajo,
+             const base::Ajustes& ajustes) {
     const auto& ruta = comb.ruta;
     const RegistroCabecera r = LeerCabecera(ruta);
     const auto cnd = RutaHermana(ruta, ".cnd");
@@ -416,19 +429,19 @@ void Abrir(Combinacion& comb, const std::filesystem::path& carpetaTrabajo,
     // Todo comprobado: desde aquí se carga el estado.
     CargarCabecera(comb, r);
     PonerPrecio(comb, ajustes);
-
-    comb.totalGeneradas = comb.activasGeneradas = 0;
-    if (std::filesystem::exists(cnd)) {
-        std::tie(comb.totalGeneradas, comb.activasGeneradas) =
-            CargarAlmacen(cnd, carpetaTrabajo / kCmbTmp);
-        comb.panel.condicionada = comb.activasGeneradas;
-    }
     comb.numCondiciones = NumeroDeCondiciones(comb.condiciones);
     comb.apuestasPosibles = comb.base.Columnas();
+    comb.totalGeneradas = comb.activasGeneradas = 0;
     comb.totalReducidas = comb.activasReducidas = 0;
+    if (!carpetaTrabajo) return;
+    if (std::filesystem::exists(cnd)) {
+        std::tie(comb.totalGeneradas, comb.activasGeneradas) =
+            CargarAlmacen(cnd, *carpetaTrabajo / kCmbTmp);
+        comb.panel.condicionada = comb.activasGeneradas;
+    }
     if (std::filesystem::exists(red)) {
         std::tie(comb.totalReducidas, comb.activasReducidas) =
-            CargarAlmacen(red, carpetaTrabajo / kRedTmp);
+            CargarAlmacen(red, *carpetaTrabajo / kRedTmp);
         for (auto& v : comb.panel.reducidas) {
             if (v) {
                 v = comb.activasReducidas;
@@ -436,6 +449,17 @@ void Abrir(Combinacion& comb, const std::filesystem::path& carpetaTrabajo,
             }
         }
     }
+}
+
+}  // namespace
+
+void Abrir(Combinacion& comb, const std::filesystem::path& carpetaTrabajo,
+           const base::Ajustes& ajustes) {
+    AbrirEn(comb, &carpetaTrabajo, ajustes);
+}
+
+void AbrirParaGenerar(Combinacion& comb, const base::Ajustes& ajustes) {
+    AbrirEn(comb, nullptr, ajustes);
 }
 
 void AbrirCombinacion(Combinacion& comb, const std::filesystem::path& ruta,

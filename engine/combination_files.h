@@ -58,8 +58,9 @@ std::filesystem::path RutaHermana(const std::filesystem::path& uxd, std::string_
 // TotalGeneradas registros de "Cmb.tmp" si "Condicionada" no está en blanco y el ".red" con
 // TotalReducidas de "Red.tmp" si alguna fila reducida no lo está; si no, borra el que hubiera.
 // Cada archivo se escribe en un temporal que se renombra encima: un fallo a mitad deja el
-// anterior. Pone "Guardada" en "SI" y el precio (ajuste "PrecioApu15", 0,75 por defecto).
-// Requiere RutaCombinacion.
+// anterior. El ".cnd" o ".red" que ya tiene el contenido que se va a escribir no se reescribe. Pone
+// "Guardada" en "SI" y el precio (ajuste "PrecioApu15", 0,75 por defecto). Requiere
+// RutaCombinacion.
 void Guardar(Combinacion& combinacion, const std::filesystem::path& carpetaTrabajo,
              const base::Ajustes& ajustes);
 
@@ -69,6 +70,10 @@ void Guardar(Combinacion& combinacion, const std::filesystem::path& carpetaTraba
 // no es múltiplo de 17, lanzan base::Error con un texto claro y no cambian nada.
 void Abrir(Combinacion& combinacion, const std::filesystem::path& carpetaTrabajo,
            const base::Ajustes& ajustes);
+
+// Abrir para generar enseguida: como Abrir, pero el ".cnd" y el ".red" no se copian a los
+// almacenes y las cuentas de columnas quedan a 0.
+void AbrirParaGenerar(Combinacion& combinacion, const base::Ajustes& ajustes);
 
 // AbrirCombinacion: nada si la ruta está vacía; si no, una Combinación nueva, RutaCombinacion,
 // Abrir y la lista de recientes.

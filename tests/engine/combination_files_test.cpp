@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <fstream>
 
 #include "base/error.h"
@@ -302,6 +303,56 @@ TEST(Guardar, ConservaElConjuntoJugado) {
     Guardar(c, carpeta.Ruta(), ajustes);
     EXPECT_EQ(Bytes(c.ruta)[16], 'c');
     EXPECT_EQ(c.jugada, "cnd");
+}
+
+// Guardar no reescribe el ".cnd" que ya tiene lo que se va a escribir: sigue el mismo archivo,
+// con su hora de antes; con otras columnas, sí se reescribe.
+TEST(Guardar, NoReescribeElCndQueYaTieneLasMismasColumnas) {
+    pruebas::CarpetaTemporal carpeta;
+    pruebas::AjustesEnMemoria ajustes;
+    Combinacion c = CombinacionDePrueba(carpeta / "Igual.uxd");
+    base::SinProgreso progreso;
+    Generar(c, carpeta.Ruta(), progreso, ajustes);
+    Guardar(c, carpeta.Ruta(), ajustes);
+    const auto cnd = carpeta / "Igual.cnd";
+    const auto antes = std::filesystem::last_write_time(cnd) - std::chrono::hours(1);
+    std::filesystem::last_write_time(cnd, antes);
+
+    std::filesystem::create_directories(carpeta / "otra");
+    Combinacion abierta;
+    AbrirCombinacion(abierta, c.ruta, carpeta / "otra", ajustes);
+    Guardar(abierta, carpeta / "otra", ajustes);
+    Generar(abierta, carpeta / "otra", progreso, ajustes);
+    Guardar(abierta, carpeta / "otra", ajustes);
+    EXPECT_EQ(std::filesystem::last_write_time(cnd), antes);
+
+    abierta.base.Elegir(1, 2, false);
+    Generar(abierta, carpeta / "otra", progreso, ajustes);
+    ASSERT_LT(abierta.totalGeneradas, c.totalGeneradas);
+    Guardar(abierta, carpeta / "otra", ajustes);
+    EXPECT_NE(std::filesystem::last_write_time(cnd), antes);
+    EXPECT_EQ(Bytes(cnd), Bytes(carpeta / "otra" / "Cmb.tmp"));
+}
+
+// Abrir para generar lee la cabecera y no toca los almacenes ni cuenta columnas.
+TEST(Abrir, ParaGenerarNoCargaLosAlmacenes) {
+    pruebas::CarpetaTemporal carpeta;
+    pruebas::AjustesEnMemoria ajustes;
+    Combinacion c = CombinacionDePrueba(carpeta / "Gen.uxd");
+    base::SinProgreso progreso;
+    Generar(c, carpeta.Ruta(), progreso, ajustes);
+    Guardar(c, carpeta.Ruta(), ajustes);
+    Combinacion abierta;
+    abierta.ruta = c.ruta;
+    AbrirParaGenerar(abierta, ajustes);
+    EXPECT_EQ(abierta.base, c.base);
+    EXPECT_EQ(abierta.condiciones, c.condiciones);
+    EXPECT_EQ(abierta.totalGeneradas, 0);
+    EXPECT_EQ(abierta.activasGeneradas, 0);
+    EXPECT_EQ(CabeceraDe(abierta).ABytes(), CabeceraDe(c).ABytes());
+    std::filesystem::create_directories(carpeta / "otra");
+    Generar(abierta, carpeta / "otra", progreso, ajustes);
+    EXPECT_EQ(abierta.totalGeneradas, c.totalGeneradas);
 }
 
 TEST(Abrir, CuentaEnLaCabeceraSinCnd) {
