@@ -16,8 +16,16 @@ ResultadoReducir Reducir(engine::Combinacion& comb, const std::filesystem::path&
     }
     const int distancia = opcion + 1;
     if (optimizada) {
+        // El sistema de las tablas para la forma de la base, con lo que de él pase las
+        // condiciones, es un buen comienzo más.
+        engine::EnSemilla deSemilla;
+        if (auto patrones = PatronesDeLaBase(comb.base, 14 - distancia, clases)) {
+            deSemilla = [casa = CasaConPatrones(*patrones)](engine::SignosColumna signos) {
+                return casa({reinterpret_cast<const base::Byte*>(signos.data()), signos.size()});
+            };
+        }
         r.optimizada = engine::ReducirOptimizado(comb, carpetaTrabajo, distancia, *optimizada,
-                                                 progreso, ajustes);
+                                                 progreso, ajustes, deSemilla);
         r.reduccion = r.optimizada->reduccion;
     } else if (comb.numCondiciones == 0) {
         const ResultadoTablas tablas = ReducirPorTablas(comb, carpetaTrabajo, 14 - distancia,

@@ -27,7 +27,8 @@ struct ResultadoReducir {
 // "&Reducir" con la opción de índice 0, 1, 2 o 3 ("al 13", "al 12", "al 11", "al 10"): por
 // tablas si NumCondiciones es 0, si no el recubrimiento voraz a la distancia índice + 1. Con
 // "optimizada", la "Reducción optimizada" de todas las generadas, haya o no condiciones (la
-// selección de partidos es cosa de las tablas y no cuenta). Guarda el índice como NivelReducida.
+// selección de partidos es cosa de las tablas y no cuenta), que empieza también por lo que pasa
+// del sistema de las tablas para la forma de la base. Guarda el índice como NivelReducida.
 ResultadoReducir Reducir(engine::Combinacion& combinacion,
                          const std::filesystem::path& carpetaTrabajo, int opcion,
                          const SeleccionPartidos& seleccion, ClaseBase& clases,

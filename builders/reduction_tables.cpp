@@ -190,33 +190,39 @@ std::vector<std::string> PatronesReducidos(const SistemaReducido& sistema,
     return patrones;
 }
 
+CasaConPatrones::CasaConPatrones(const std::vector<std::string>& patrones) {
+    for (std::size_t p = 0; !patrones.empty() && p < engine::kPartidos; ++p) {
+        if (patrones.front()[p] != ' ') fijos_.push_back(p);
+    }
+    std::size_t posibles = patrones.empty() ? 0 : 1;
+    for (std::size_t i = 0; i < fijos_.size(); ++i) posibles *= 3;
+    permitidos_.assign(posibles, false);
+    for (const std::string& patron : patrones) {
+        const auto* bytes = reinterpret_cast<const base::Byte*>(patron.data());
+        permitidos_[static_cast<std::size_t>(CodigoDeRegistro({bytes, patron.size()}, fijos_))] =
+            true;
+    }
+}
+
+bool CasaConPatrones::operator()(std::span<const base::Byte> signos) const {
+    if (permitidos_.empty()) return false;
+    const std::int32_t c = CodigoDeRegistro(signos, fijos_);
+    return c >= 0 && permitidos_[static_cast<std::size_t>(c)];
+}
+
+std::optional<std::vector<std::string>> PatronesDeLaBase(const engine::QuinielaBase& base,
+                                                         int nivel, ClaseBase clases) {
+    const FormaBase forma = Clasificar(base, std::nullopt, clases);
+    const SistemaReducido* sistema = ElegirSistema(nivel, forma.triples, forma.dobles);
+    if (sistema == nullptr) return std::nullopt;
+    return PatronesReducidos(*sistema, clases);
+}
+
 std::int32_t FiltrarPorPatrones(const std::vector<std::string>& patrones,
                                 const engine::Combinacion& combinacion,
                                 const std::filesystem::path& carpetaTrabajo,
                                 base::Progreso& progreso) {
-    // Los partidos que fijan los patrones (los mismos en todos) y los códigos de base 3 de sus
-    // proyecciones.
-    std::vector<std::size_t> fijos;
-    for (std::size_t p = 0; !patrones.empty() && p < engine::kPartidos; ++p) {
-        if (patrones.front()[p] != ' ') fijos.push_back(p);
-    }
-    const auto codigo = [&](auto&& signoEn) -> std::int32_t {
-        std::int32_t c = 0;
-        for (const std::size_t p : fijos) {
-            const int cifra = engine::IndiceSigno(signoEn(p));
-            if (cifra < 0) return -1;
-            c = c * 3 + cifra;
-        }
-        return c;
-    };
-    std::int32_t posibles = 1;
-    for (std::size_t i = 0; i < fijos.size(); ++i) posibles *= 3;
-    std::vector<bool> permitidos(static_cast<std::size_t>(posibles), false);
-    for (const std::string& patron : patrones) {
-        permitidos[static_cast<std::size_t>(codigo([&](std::size_t p) { return patron[p]; }))] =
-            true;
-    }
-
+    const CasaConPatrones casa(patrones);
     base::LectorRegistros cmb(carpetaTrabajo / engine::kCmbTmp, engine::RegistroColumna::kLongitud);
     base::AnexadorRegistros red(carpetaTrabajo / engine::kRedTmp,
                                 engine::RegistroColumna::kLongitud);
@@ -224,8 +230,7 @@ std::int32_t FiltrarPorPatrones(const std::vector<std::string>& patrones,
     std::int32_t numero = 0;
     for (auto registro = cmb.Siguiente(); !registro.empty(); registro = cmb.Siguiente()) {
         ++numero;
-        const std::int32_t c = CodigoDeRegistro(registro, fijos);
-        if (!patrones.empty() && c >= 0 && permitidos[static_cast<std::size_t>(c)]) {
+        if (casa(registro)) {
             std::copy(registro.begin(), registro.end(), salida.begin());
             salida[16] = static_cast<base::Byte>(engine::kActiva);
             red.Anadir(salida);

@@ -62,6 +62,24 @@ FormaBase Clasificar(const engine::QuinielaBase& base, const SeleccionPartidos& 
 // PatronesReducidos: las filas del sistema llevadas a los 14 partidos (blanco: partido libre).
 std::vector<std::string> PatronesReducidos(const SistemaReducido& sistema, const ClaseBase& clases);
 
+// Las columnas que casan con algún patrón: todos los patrones fijan los mismos partidos, así que
+// una columna casa si su proyección en ellos es la de algún patrón.
+class CasaConPatrones {
+  public:
+    explicit CasaConPatrones(const std::vector<std::string>& patrones);
+    // Los signos de una columna (los 14 primeros bytes de un registro).
+    bool operator()(std::span<const base::Byte> signos) const;
+
+  private:
+    std::vector<std::size_t> fijos_;
+    std::vector<bool> permitidos_;
+};
+
+// El sistema de las tablas para la forma de la base (todos sus partidos) al nivel 13, 12 u 11,
+// como sus patrones; nada si no hay sistema. Clasifica sobre una copia de la ClaseBase.
+std::optional<std::vector<std::string>> PatronesDeLaBase(const engine::QuinielaBase& base,
+                                                         int nivel, ClaseBase clases);
+
 // FiltrarPorPatrones: copia a "Red.tmp", en su orden y con estado "0", cada registro de "Cmb.tmp"
 // que casa con algún patrón. Devuelve cuántos. Todos los patrones fijan los mismos partidos, así
 // que cada registro se busca por su proyección en un conjunto en lugar de probar los patrones uno

@@ -80,10 +80,13 @@ std::vector<std::size_t> Voraz(const Entornos& entornos, int radio, Plazo& plazo
     return elegidas;
 }
 
-// La voraz del orden dado: cada columna que aún no está cubierta se queda.
-std::vector<std::size_t> EnOrden(const Entornos& entornos, int radio) {
+// La voraz del orden dado tras las de "primeras": cada columna que aún no está cubierta se queda.
+std::vector<std::size_t> EnOrden(const Entornos& entornos, int radio,
+                                 std::span<const std::size_t> primeras = {}) {
     std::vector<char> cubierta(entornos.Tamano(), 0);
-    std::vector<std::size_t> elegidas;
+    std::vector<std::size_t> elegidas(primeras.begin(), primeras.end());
+    for (const std::size_t e : elegidas)
+        entornos.Cada(e, radio, [&](std::size_t j) { cubierta[j] = 1; });
     for (std::size_t i = 0; i < entornos.Tamano(); ++i) {
         if (cubierta[i]) continue;
         elegidas.push_back(i);
@@ -114,13 +117,19 @@ void QuitarSobrantes(const Entornos& entornos, int radio, std::vector<std::size_
 
 RecubrimientoOptimizado CubrirOptimizado(std::span<const std::int32_t> codigos, int radio,
                                          const OpcionesOptimizada& opciones,
-                                         base::Progreso& progreso) {
+                                         base::Progreso& progreso,
+                                         std::span<const std::size_t> semilla) {
     RecubrimientoOptimizado resultado;
     if (codigos.empty()) return resultado;
-    const Entornos entornos(codigos);
     Plazo plazo(opciones.segundos, progreso);
+    const Entornos entornos(codigos);
     auto mejor = EnOrden(entornos, radio);
     QuitarSobrantes(entornos, radio, mejor);
+    if (!semilla.empty()) {
+        auto completada = EnOrden(entornos, radio, semilla);
+        QuitarSobrantes(entornos, radio, completada);
+        if (completada.size() < mejor.size()) mejor = std::move(completada);
+    }
     auto porGanancia = Voraz(entornos, radio, plazo);
     if (!porGanancia.empty()) {
         QuitarSobrantes(entornos, radio, porGanancia);

@@ -29,8 +29,11 @@ struct RecubrimientoOptimizado {
 // el tiempo o se pide "&Detener". Siempre es un recubrimiento y nunca mayor que la voraz del orden
 // dado; con la misma semilla y acabando antes del tiempo, el mismo. Progreso avanza con el tiempo
 // gastado.
+// "semilla" (índices) es otro comienzo: se completa con las que falten, en orden, y compite con
+// las dos voraces.
 RecubrimientoOptimizado CubrirOptimizado(std::span<const std::int32_t> codigos, int radio,
                                          const OpcionesOptimizada& opciones,
-                                         base::Progreso& progreso);
+                                         base::Progreso& progreso,
+                                         std::span<const std::size_t> semilla = {});
 
 }  // namespace quinteva::engine

@@ -19,11 +19,12 @@ struct Activas {
     std::vector<Columna> columnas;
     std::vector<std::int32_t> codigos;    // uno por columna, -1 si no tiene
     std::vector<std::int32_t> conCodigo;  // posiciones en columnas de las que tienen código
+    std::vector<std::size_t> semilla;     // índices en conCodigo de las de la semilla
     std::int32_t voraz = 0;
 };
 
 Activas LeerActivas(const Combinacion& comb, const std::filesystem::path& carpetaTrabajo,
-                    int distancia) {
+                    int distancia, const EnSemilla& deSemilla) {
     base::LectorRegistros cmb(carpetaTrabajo / kCmbTmp, RegistroColumna::kLongitud);
     if (cmb.Cuenta() < comb.totalGeneradas) throw base::Error("Número de registro incorrecto");
     Activas activas;
@@ -37,6 +38,9 @@ Activas LeerActivas(const Combinacion& comb, const std::filesystem::path& carpet
         if (codigo >= 0) {
             if (visto[static_cast<std::size_t>(codigo)]) continue;
             visto[static_cast<std::size_t>(codigo)] = 1;
+            if (deSemilla && deSemilla(registro.columna)) {
+                activas.semilla.push_back(activas.conCodigo.size());
+            }
             activas.conCodigo.push_back(static_cast<std::int32_t>(activas.columnas.size()));
         }
         activas.columnas.push_back(registro.columna);
@@ -50,17 +54,17 @@ Activas LeerActivas(const Combinacion& comb, const std::filesystem::path& carpet
 ResultadoOptimizada ReducirOptimizado(Combinacion& comb,
                                       const std::filesystem::path& carpetaTrabajo, int distancia,
                                       const OpcionesOptimizada& opciones, base::Progreso& progreso,
-                                      const base::Ajustes& ajustes) {
+                                      const base::Ajustes& ajustes, const EnSemilla& deSemilla) {
     if (distancia < kDistanciaMinima || distancia > kDistanciaMaxima) {
         throw base::Error("Distancia de reducción no válida");
     }
     PrepararReduccion(comb, carpetaTrabajo);
-    const Activas activas = LeerActivas(comb, carpetaTrabajo, distancia);
+    const Activas activas = LeerActivas(comb, carpetaTrabajo, distancia, deSemilla);
     std::vector<std::int32_t> codigos;
     codigos.reserve(activas.conCodigo.size());
     for (const std::int32_t i : activas.conCodigo)
         codigos.push_back(activas.codigos[static_cast<std::size_t>(i)]);
-    const auto cubierta = CubrirOptimizado(codigos, distancia, opciones, progreso);
+    const auto cubierta = CubrirOptimizado(codigos, distancia, opciones, progreso, activas.semilla);
 
     std::vector<char> quedan(activas.columnas.size(), 0);
     for (std::size_t i = 0; i < activas.columnas.size(); ++i) quedan[i] = activas.codigos[i] < 0;

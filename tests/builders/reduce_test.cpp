@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 #include "tests/builders/development.h"
 #include "tests/support/counting_progress.h"
 
@@ -46,6 +48,29 @@ TEST(Reducir, ConCondicionesUsaElRecubrimientoALaDistanciaDeLaOpcion) {
     EXPECT_EQ(d.combinacion.panel.reducidas[1], r.reduccion.reducidas);
     EXPECT_TRUE(pruebas::Cubre(d.Leer("Red.tmp"), d.Leer("Cmb.tmp"), 2));
     EXPECT_EQ(clases, ClaseBase{});  // el recubrimiento no toca las clases
+}
+
+// La optimizada empieza también por el sistema de las tablas: sin condiciones nunca guarda más
+// que él, y cubre al nivel pedido. No toca la ClaseBase del programa.
+TEST(Reducir, OptimizadaNuncaGuardaMasQueElSistemaDeLasTablas) {
+    for (const auto& [triples, dobles, opcion] :
+         {std::tuple{2, 5, 0}, std::tuple{4, 4, 1}, std::tuple{6, 2, 2}}) {
+        pruebas::Desarrollo porTablas(triples, dobles);
+        ClaseBase clases{};
+        pruebas::ProgresoContador progreso;
+        const auto tablas = Reducir(porTablas.combinacion, porTablas.carpeta.Ruta(), opcion,
+                                    std::nullopt, clases, progreso, porTablas.ajustes);
+        ASSERT_FALSE(tablas.sinSistema);
+
+        pruebas::Desarrollo d(triples, dobles);
+        ClaseBase otras{};
+        const auto r = Reducir(d.combinacion, d.carpeta.Ruta(), opcion, std::nullopt, otras,
+                               progreso, d.ajustes, engine::OpcionesOptimizada{5.0, 1, 5});
+        ASSERT_TRUE(r.optimizada.has_value());
+        EXPECT_LE(r.reduccion.reducidas, tablas.reduccion.reducidas) << triples << " " << dobles;
+        EXPECT_TRUE(pruebas::Cubre(d.Leer("Red.tmp"), d.Leer("Cmb.tmp"), opcion + 1));
+        EXPECT_EQ(otras, ClaseBase{});
+    }
 }
 
 TEST(Reducir, AlDiezNoHaceNada) {
