@@ -62,7 +62,7 @@ FormaBase Clasificar(const engine::QuinielaBase& base, const SeleccionPartidos& 
 // PatronesReducidos: las filas del sistema llevadas a los 14 partidos (blanco: partido libre).
 std::vector<std::string> PatronesReducidos(const SistemaReducido& sistema, const ClaseBase& clases);
 
-// Las columnas que casan con algún patrón: todos los patrones fijan los mismos partidos, así que
+// Las columnas que casan con algún patrón: los patrones fijan cada uno los mismos partidos, así que
 // una columna casa si su proyección en ellos es la de algún patrón.
 class CasaConPatrones {
   public:
@@ -75,7 +75,7 @@ class CasaConPatrones {
     std::vector<bool> permitidos_;
 };
 
-// El sistema de las tablas para la forma de la base (todos sus partidos) al nivel 13, 12 u 11,
+// El sistema de las tablas para la forma de la base (sus catorce partidos) al nivel 13, 12 u 11,
 // como sus patrones; nada si no hay sistema. Clasifica sobre una copia de la ClaseBase.
 std::optional<std::vector<std::string>> PatronesDeLaBase(const engine::QuinielaBase& base,
                                                          int nivel, ClaseBase clases);

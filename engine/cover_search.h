@@ -10,7 +10,7 @@
 namespace quinteva::engine {
 
 // La búsqueda local sobre un recubrimiento: se toma al azar una elegida y se cambia por otra
-// columna que cubra todo lo que solo ella cubría (la que deja más columnas cubiertas dos veces,
+// columna que cubra cuanto solo ella cubría (la que deja más columnas cubiertas dos veces,
 // entre unas pocas al azar, y nunca una quitada hace poco); las elegidas que el cambio deja
 // sobrando se quitan. Cada paso deja un recubrimiento, nunca mayor que el anterior.
 class BusquedaLocal {
