@@ -1,7 +1,8 @@
 // El tráfico de archivos de generar y reducir el desarrollo de catorce triples (4.782.969
 // columnas, un ".cnd" de 81 MB), cada paso frente a copiar ese ".cnd" una vez con cp en la misma
 // ejecución: desde fuera, "quinteva-cli generar" y "quinteva-cli reducir --al 13", y dentro del
-// programa, "&Reducir" + "&Guardar" de la ventana. Mediana de cinco veces.
+// programa, "&Reducir" + "&Guardar" de la ventana y "&Generar" + "&Guardar" con otras columnas.
+// Mediana de cinco veces.
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
@@ -14,6 +15,7 @@
 #include "base/progress.h"
 #include "builders/reduce.h"
 #include "engine/combination_files.h"
+#include "engine/generation.h"
 #include "tests/support/memory_settings.h"
 
 namespace {
@@ -82,7 +84,18 @@ int main() {
              engine::Guardar(c, kCarpeta / "t", ajustes);
          }),
          copia);
-    std::printf("\nReducidas al 13: %d\n", c.totalReducidas);
+    const std::int32_t reducidas = c.totalReducidas;
+    // "&Generar" + "&Guardar" cuando las columnas cambian (otro Pleno al 15 en cada vuelta): el
+    // ".cnd" se reescribe entero.
+    bool otroPleno = false;
+    Fila("\"&Generar\" + \"&Guardar\" con otras columnas", Mediana([&] {
+             otroPleno = !otroPleno;
+             c.pleno = engine::PlenoDeTexto(otroPleno ? "21" : "10");
+             engine::Generar(c, kCarpeta / "t", progreso, ajustes);
+             engine::Guardar(c, kCarpeta / "t", ajustes);
+         }),
+         copia);
+    std::printf("\nReducidas al 13: %d\n", reducidas);
     fs::remove_all(kCarpeta);
     return 0;
 }
