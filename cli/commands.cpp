@@ -126,6 +126,13 @@ std::span<const Subcomando> Subcomandos() {
          "cada generada activa a 1, 2 o 3 signos de alguna reducida; dice la primera que no.",
          {{"al"}, {}},
          &VerificarCmd},
+        {"probabilidades",
+         "probabilidades RUTA.uxd [--jugadas condicionadas|reducidas] [--json]",
+         "La probabilidad de que la mejor columna jugada tenga 14, 13, 12, 11 o 10 aciertos, o "
+         "menos, y la del Pleno al 15, con la ganadora sacada con los porcentajes de \"Sumas\", "
+         "los de la Quiniela por Porcentajes o, sin ellos, igual entre los signos de la base.",
+         {{"jugadas"}, {}},
+         &ProbabilidadesCmd},
         {"refundir",
          "refundir SALIDA.txt A.uxd B.uxd ... [--estructura continuo|separadores|columna] "
          "[--semilla S] [--json]",

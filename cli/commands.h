@@ -40,6 +40,7 @@ int PorcentajesCmd(const Argumentos& argumentos, std::ostream& salida);
 int PenaCmd(const Argumentos& argumentos, std::ostream& salida);
 OpcionesAdmitidas OpcionesPena();
 int VerificarCmd(const Argumentos& argumentos, std::ostream& salida);
+int ProbabilidadesCmd(const Argumentos& argumentos, std::ostream& salida);
 int RefundirCmd(const Argumentos& argumentos, std::ostream& salida);
 int RapidaBasicaCmd(const Argumentos& argumentos, std::ostream& salida);
 OpcionesAdmitidas OpcionesRapidaBasica();

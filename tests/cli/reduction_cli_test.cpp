@@ -1,5 +1,8 @@
 #include <gtest/gtest.h>
 
+#include <cstring>
+#include <vector>
+
 #include "builders/reduction_display.h"
 #include "engine/combination_files.h"
 #include "engine/cover.h"
@@ -91,6 +94,40 @@ TEST(CliReducir, OptimizadaConOpcionesMalPuestas) {
     const Salida sola = EjecutarCli("reducir " + Q(q.uxd) + " --al 13 --semilla 3" + q.trabajo);
     EXPECT_EQ(sola.codigo, 2);
     EXPECT_NE(sola.errores.find("--segundos y --semilla van con --optimizada"), std::string::npos);
+}
+
+// Las seis probabilidades del JSON, en su orden.
+std::vector<double> Probabilidades(const std::string& json) {
+    std::vector<double> v;
+    for (const char* clave :
+         {"Aciertos14", "Aciertos13", "Aciertos12", "Aciertos11", "Aciertos10", "MenosDe10"}) {
+        const auto en = json.find(std::string("\"") + clave + "\": ");
+        if (en == std::string::npos) return {};
+        v.push_back(std::stod(json.substr(en + std::strlen(clave) + 4)));
+    }
+    return v;
+}
+
+TEST(CliProbabilidades, LaReducidaAlTreceDaTreceOCatorceSeguroYLaCondicionadaCatorce) {
+    Quiniela q("1X2 1X2 1X2 1X2 1 1 1 1 1 1 1 1 1 1");
+    ASSERT_EQ(EjecutarCli("generar " + Q(q.uxd) + q.trabajo).codigo, 0);
+    ASSERT_EQ(EjecutarCli("reducir " + Q(q.uxd) + " --al 13" + q.trabajo).codigo, 0);
+    const Salida red = EjecutarCli("probabilidades " + Q(q.uxd) + " --json" + q.trabajo);
+    ASSERT_EQ(red.codigo, 0) << red.errores;
+    const auto r = Probabilidades(red.salida);
+    ASSERT_EQ(r.size(), 6U) << red.salida;
+    // 9 reducidas de 81 columnas igual de probables: 9 de 81 con 14 y las demás con 13.
+    EXPECT_NEAR(r[0], 9.0 / 81.0, 1e-12);
+    EXPECT_NEAR(r[0] + r[1], 1.0, 1e-12);
+    const Salida cnd =
+        EjecutarCli("probabilidades " + Q(q.uxd) + " --jugadas condicionadas --json" + q.trabajo);
+    EXPECT_NEAR(Probabilidades(cnd.salida).at(0), 1.0, 1e-12);
+    const Salida texto = EjecutarCli("probabilidades " + Q(q.uxd) + q.trabajo);
+    EXPECT_EQ(texto.salida,
+              "14 aciertos: 11,111111 %\n13 aciertos: 88,888889 %\n12 aciertos: 0,000000 %\n"
+              "11 aciertos: 0,000000 %\n10 aciertos: 0,000000 %\nMenos de 10: 0,000000 %\n"
+              "Pleno al 15: 0,694444 %\n");
+    EXPECT_EQ(EjecutarCli("probabilidades " + Q(q.uxd) + " --jugadas todas" + q.trabajo).codigo, 2);
 }
 
 TEST(CliReducir, SinSistemaLoDice) {
