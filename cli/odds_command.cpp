@@ -1,10 +1,7 @@
 // probabilidades: la de cada premio para las columnas que se juegan de una Combinación.
-#include "base/formats.h"
 #include "cli/commands.h"
-#include "engine/column_code.h"
 #include "engine/combination_files.h"
 #include "engine/prize_odds.h"
-#include "outputs/played_set.h"
 
 namespace quinteva::cli {
 
@@ -28,8 +25,6 @@ std::filesystem::path ArchivoJugado(const Argumentos& a, const engine::Combinaci
     return cnd;
 }
 
-std::string Porcentaje(double p) { return base::Formato(100.0 * p, "0.000000") + " %"; }
-
 }  // namespace
 
 int ProbabilidadesCmd(const Argumentos& a, std::ostream& salida) {
@@ -37,22 +32,14 @@ int ProbabilidadesCmd(const Argumentos& a, std::ostream& salida) {
     engine::Combinacion comb;
     comb.ruta = a.Posicionales()[0];
     engine::CargarCabecera(comb, engine::LeerCabecera(comb.ruta));
-    std::vector<std::int32_t> jugadas;
-    for (const auto& r : outputs::LeerColumnas(ArchivoJugado(a, comb), true)) {
-        const std::int32_t codigo = engine::CodigoColumna(r.columna);
-        if (codigo >= 0) jugadas.push_back(codigo);
-    }
-    const auto p = engine::Probabilidades(jugadas, engine::ProbabilidadesDeLaCombinacion(comb));
+    const auto p = engine::ProbabilidadesDeArchivo(comb, ArchivoJugado(a, comb));
     if (a.Json()) {
         salida << engine::ProbabilidadesJson(p) << '\n';
         return 0;
     }
-    static constexpr const char* kNombres[6] = {"14 aciertos", "13 aciertos", "12 aciertos",
-                                                "11 aciertos", "10 aciertos", "Menos de 10"};
-    for (std::size_t i = 0; i < p.aciertos.size(); ++i) {
-        salida << kNombres[i] << ": " << Porcentaje(p.aciertos[i]) << '\n';
+    for (const auto& [nombre, valor] : engine::FilasProbabilidades(p)) {
+        salida << nombre << ": " << valor << '\n';
     }
-    salida << "Pleno al 15: " << Porcentaje(p.pleno) << '\n';
     return 0;
 }
 

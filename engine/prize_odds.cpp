@@ -3,6 +3,8 @@
 #include <cstdio>
 #include <vector>
 
+#include "base/formats.h"
+#include "base/record_files.h"
 #include "engine/column_code.h"
 #include "engine/neighbourhoods.h"
 
@@ -107,6 +109,43 @@ ProbabilidadesSignos ProbabilidadesDeLaCombinacion(const Combinacion& comb) {
     }
     if (HayAlguno(comb.tablaPorcentajes)) return DeTabla(comb.tablaPorcentajes, comb.base);
     return DeTabla({}, comb.base);
+}
+
+std::string OrigenDeLasProbabilidades(const Combinacion& comb) {
+    if (comb.condiciones.casilla[kCasillaSumas]) {
+        return "La ganadora sale con los porcentajes de Sumas.";
+    }
+    if (HayAlguno(comb.tablaPorcentajes)) {
+        return "La ganadora sale con los porcentajes de la Quiniela por Porcentajes.";
+    }
+    return "La ganadora sale entre las columnas de la base, todas igual de probables.";
+}
+
+ProbabilidadesPremios ProbabilidadesDeArchivo(const Combinacion& comb,
+                                              const std::filesystem::path& columnas) {
+    std::vector<std::int32_t> jugadas;
+    if (std::filesystem::exists(columnas)) {
+        base::LectorRegistros lector(columnas, RegistroColumna::kLongitud);
+        for (auto r = lector.Siguiente(); !r.empty(); r = lector.Siguiente()) {
+            const auto registro = RegistroColumna::DeBytes(r);
+            const std::int32_t codigo = CodigoColumna(registro.columna);
+            if (registro.Activa() && codigo >= 0) jugadas.push_back(codigo);
+        }
+    }
+    return Probabilidades(jugadas, ProbabilidadesDeLaCombinacion(comb));
+}
+
+std::vector<std::pair<std::string, std::string>> FilasProbabilidades(
+    const ProbabilidadesPremios& p) {
+    static constexpr const char* kNombres[6] = {"14 aciertos", "13 aciertos", "12 aciertos",
+                                                "11 aciertos", "10 aciertos", "Menos de 10"};
+    const auto porcentaje = [](double v) { return base::Formato(100.0 * v, "0.000000") + " %"; };
+    std::vector<std::pair<std::string, std::string>> filas;
+    for (std::size_t i = 0; i < p.aciertos.size(); ++i) {
+        filas.emplace_back(kNombres[i], porcentaje(p.aciertos[i]));
+    }
+    filas.emplace_back("Pleno al 15", porcentaje(p.pleno));
+    return filas;
 }
 
 ProbabilidadesPremios Probabilidades(std::span<const std::int32_t> jugadas,

@@ -2,8 +2,11 @@
 
 #include <array>
 #include <cstdint>
+#include <filesystem>
 #include <span>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "engine/combination.h"
 
@@ -31,6 +34,19 @@ struct ProbabilidadesPremios {
 // Las jugadas son códigos de columna válidos (repetidos no importan).
 ProbabilidadesPremios Probabilidades(std::span<const std::int32_t> jugadas,
                                      const ProbabilidadesSignos& signos);
+
+// Las de las columnas activas de un archivo de columnas (un almacén, un ".cnd" o un ".red"), con
+// las probabilidades de los signos de la Combinación. Un archivo que falta no tiene columnas.
+ProbabilidadesPremios ProbabilidadesDeArchivo(const Combinacion& combinacion,
+                                              const std::filesystem::path& columnas);
+
+// De dónde salen las probabilidades de los signos, para decírselo al usuario.
+std::string OrigenDeLasProbabilidades(const Combinacion& combinacion);
+
+// Las filas que se muestran: "14 aciertos" ... "Menos de 10" y "Pleno al 15", cada una con su
+// porcentaje ("11,111111 %").
+std::vector<std::pair<std::string, std::string>> FilasProbabilidades(
+    const ProbabilidadesPremios& p);
 
 // El texto de "quinteva-cli probabilidades" en JSON: Aciertos14 ... Aciertos10 y MenosDe10.
 std::string ProbabilidadesJson(const ProbabilidadesPremios& p);

@@ -31,6 +31,7 @@
 #include "engine/conditions.h"
 #include "engine/editing_rules.h"
 #include "engine/pricing.h"
+#include "engine/prize_odds.h"
 #include "seasons/demo_season.h"
 #include "seasons/version_update.h"
 #include "ui/base_page.h"
@@ -846,9 +847,11 @@ void VentanaPrincipal::TablaReducciones() {
 
 void VentanaPrincipal::InfoReduccion() {
     if (s_.reductor == nullptr) return;
-    AbrirVentana(new VentanaReduccion(
-        s_.reductor->Informe(comb_.activasReducidas, static_cast<double>(comb_.activasGeneradas)),
-        this));
+    auto informe =
+        s_.reductor->Informe(comb_.activasReducidas, static_cast<double>(comb_.activasGeneradas));
+    informe.premios = engine::FilasProbabilidades(
+        engine::ProbabilidadesDeArchivo(comb_, s_.carpetaTrabajo / engine::kRedTmp));
+    AbrirVentana(new VentanaReduccion(informe, this));
 }
 
 void VentanaPrincipal::SeleccionPulsada(int fila) {

@@ -159,6 +159,8 @@ class VentanaPrincipal : public QMainWindow {
     void Listado(bool condicionadas);
     // "&Leer o modificar archivo JSON".
     void ArchivoJson();
+    // "&Probabilidades" de la página Boletos: las de cada premio del conjunto que se juega.
+    void ProbabilidadesJugadas();
     // "Comprobación de &Aciertos" sobre la Jornada que se muestra y "Análisis de Datos".
     void ComprobarAciertos();
     void AnalisisDeDatos();

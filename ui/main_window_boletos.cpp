@@ -8,10 +8,12 @@
 
 #include "builders/manual.h"
 #include "builders/merge.h"
+#include "engine/prize_odds.h"
 #include "ui/add_columns_window.h"
 #include "ui/bets_list_window.h"
 #include "ui/json_file_window.h"
 #include "ui/main_window.h"
+#include "ui/odds_window.h"
 #include "ui/official_file_window.h"
 #include "ui/remove_columns_window.h"
 #include "ui/status_panel.h"
@@ -50,6 +52,8 @@ void VentanaPrincipal::ConectarBoletos() {
     connect(boletos_->eliminarManual, &QPushButton::clicked, this,
             &VentanaPrincipal::EliminarManual);
     connect(boletos_->anadirManual, &QPushButton::clicked, this, &VentanaPrincipal::AnadirManual);
+    connect(boletos_->probabilidades, &QPushButton::clicked, this,
+            &VentanaPrincipal::ProbabilidadesJugadas);
 }
 
 builders::EntornoBoletos VentanaPrincipal::Entorno() {
@@ -178,6 +182,14 @@ void VentanaPrincipal::ArchivoJson() {
     ventana->Cargar(comb_.ruta.parent_path());
 }
 
+void VentanaPrincipal::ProbabilidadesJugadas() {
+    const bool reducida = comb_.jugada == "red";
+    const auto almacen = s_.carpetaTrabajo / (reducida ? engine::kRedTmp : engine::kCmbTmp);
+    AbrirVentana(new VentanaProbabilidades(
+        reducida ? "reducida" : "condicionada", engine::OrigenDeLasProbabilidades(comb_),
+        engine::FilasProbabilidades(engine::ProbabilidadesDeArchivo(comb_, almacen)), this));
+}
+
 void VentanaPrincipal::RefrescarPaginaBoletos() {
     const bool elegida = comb_.jugada == "cnd" || comb_.jugada == "red";
     boletos_->condicionada->setEnabled(comb_.totalGeneradas > 0);
@@ -190,7 +202,7 @@ void VentanaPrincipal::RefrescarPaginaBoletos() {
     for (QWidget* w : std::initializer_list<QWidget*>{
              boletos_->campoAjustar, boletos_->ajustar, boletos_->oficial, boletos_->txt,
              boletos_->imprimirBoletos, boletos_->imprimirPapel, boletos_->eliminarManual,
-             boletos_->anadirManual}) {
+             boletos_->anadirManual, boletos_->probabilidades}) {
         w->setEnabled(elegida);
     }
     boletos_->detener->setEnabled(false);

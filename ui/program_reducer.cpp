@@ -34,7 +34,8 @@ std::vector<FilaTablaReducciones> ReductorDelPrograma::TablaReducciones() const 
 InformeReduccion ReductorDelPrograma::Informe(std::int32_t reducidas, double totalApuestas) const {
     const double porcentaje = totalApuestas > 0 ? 100.0 * reducidas / totalApuestas : 0.0;
     return {base::Formato(100.0 - porcentaje, "0.#0") + "%",
-            base::Formato(porcentaje, "0.#0") + "%"};
+            base::Formato(porcentaje, "0.#0") + "%",
+            {}};
 }
 
 }  // namespace quinteva::ui

@@ -3,6 +3,7 @@
 #include <array>
 #include <filesystem>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "base/progress.h"
@@ -38,6 +39,8 @@ struct FilaTablaReducciones {
 struct InformeReduccion {
     std::string reduccion;     // "La reducción realizada es del"
     std::string probabilidad;  // "Probabilidad de obtener 14 aciertos"
+    // Las de cada premio con la ganadora según los porcentajes (las pone la ventana principal).
+    std::vector<std::pair<std::string, std::string>> premios;
 };
 
 // La reducción vista desde la ventana: la pone quien tiene los sistemas reducidos y la cobertura.

@@ -1,12 +1,14 @@
 #include "ui/report_windows.h"
 
 #include <QFormLayout>
+#include <QGroupBox>
 #include <QHeaderView>
 #include <QLabel>
 #include <QTableWidget>
 #include <QVBoxLayout>
 
 #include "builders/reduction_display.h"
+#include "ui/odds_window.h"
 #include "ui/qt_text.h"
 #include "ui/report_grid.h"
 
@@ -99,6 +101,12 @@ VentanaReduccion::VentanaReduccion(const InformeReduccion& informe, QWidget* mad
     formulario->addRow(QStringLiteral("Probabilidad de obtener 14 aciertos"),
                        valor(QStringLiteral("ValorProbabilidad"), Q(informe.probabilidad)));
     caja->addLayout(formulario);
+    if (!informe.premios.empty()) {
+        auto* premios = new QGroupBox(QStringLiteral("Probabilidades de premio"), this);
+        auto* filas = new QFormLayout(premios);
+        AnadirProbabilidades(filas, informe.premios, premios);
+        caja->addWidget(premios);
+    }
     BotonAceptar(this, caja);
 }
 

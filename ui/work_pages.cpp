@@ -196,6 +196,10 @@ PaginaBoletos::PaginaBoletos(QWidget* madre) : QWidget(madre) {
     auto* formulario = new QFormLayout;
     enTotal = CifraConRotulo(this, formulario, QStringLiteral("Apuestas que se juegan en total "),
                              QStringLiteral("ApuestasEnTotal"));
+    probabilidades = new QPushButton(QStringLiteral("&Probabilidades de premio"), this);
+    probabilidades->setObjectName(QStringLiteral("BotonProbabilidades"));
+    probabilidades->setEnabled(false);
+    formulario->addRow(QString(), probabilidades);
     auto* filaAjustar = new QHBoxLayout;
     campoAjustar = new QLineEdit(this);
     campoAjustar->setObjectName(QStringLiteral("CampoAjustar"));

@@ -80,6 +80,7 @@ class PaginaBoletos : public QWidget {
     QPushButton* oficial;
     QPushButton* txt;
     QPushButton* eliminarManual;
+    QPushButton* probabilidades;
     QPushButton* anadirManual;
 };
 

@@ -22,6 +22,7 @@
 #include "ui/bets_list_window.h"
 #include "ui/boletos_notice.h"
 #include "ui/json_file_window.h"
+#include "ui/odds_window.h"
 #include "ui/official_file_window.h"
 #include "ui/remove_columns_window.h"
 #include "ui/text_type_window.h"
@@ -322,6 +323,25 @@ class PruebaBoletos : public QObject {
         Pulsar(*Hijo<ui::VentanaTipoArchivo>(*v, "VentanaTipoArchivo"), "BotonCancelar");
         QCOMPARE(inst.dialogo.Registro().size(), marca);
         QVERIFY(inst.dialogo.GuionAgotado());
+    }
+
+    // Con la Condicionada entera (las 36 columnas de la base), la ganadora, entre las columnas de
+    // la base, siempre se acierta: 14 aciertos seguro y el Pleno, uno de 16.
+    void LasProbabilidadesDePremioDelConjuntoQueSeJuega() {
+        pruebas::Instalacion inst;
+        auto v = Guardada(inst, inst.documentos / "Premios.uxd");
+        QVERIFY(!Hijo<QPushButton>(*v, "BotonProbabilidades")->isEnabled());
+        Marcar(*v, "OpcionCondicionada");
+        const std::size_t dichos = inst.dialogo.Registro().size();
+        Pulsar(*v, "BotonProbabilidades");
+        auto* ventana = Hijo<ui::VentanaProbabilidades>(*v, "VentanaProbabilidades");
+        QCOMPARE(ventana->windowTitle(), QStringLiteral("Probabilidades de premio"));
+        QCOMPARE(pruebas::TextoDe(*ventana, "Probabilidad0"), QStringLiteral("100,000000 %"));
+        QCOMPARE(pruebas::TextoDe(*ventana, "Probabilidad5"), QStringLiteral("0,000000 %"));
+        QCOMPARE(pruebas::TextoDe(*ventana, "Probabilidad6"), QStringLiteral("6,250000 %"));
+        QVERIFY(pruebas::TextoDe(*ventana, "OrigenProbabilidades")
+                    .endsWith(QStringLiteral("todas igual de probables.")));
+        QCOMPARE(inst.dialogo.Registro().size(), dichos);
     }
 
     void ElAjusteRechazaYPreguntaConSusTextos() {

@@ -13,6 +13,7 @@
 #include <fstream>
 
 #include "engine/analysis.h"
+#include "engine/prize_odds.h"
 #include "seasons/update.h"
 #include "syndicates/ledger.h"
 #include "syndicates/participants.h"
@@ -35,6 +36,7 @@
 #include "ui/league_table_window.h"
 #include "ui/located_columns_window.h"
 #include "ui/merge_window.h"
+#include "ui/odds_window.h"
 #include "ui/official_file_window.h"
 #include "ui/options_window.h"
 #include "ui/paper_print_window.h"
@@ -487,6 +489,9 @@ class PruebaCapturas : public QObject {
         QTest::keyClicks(entrada, QStringLiteral("1x2"));
         Capturar(*anadir, QStringLiteral("ventana_anadir_columnas"));
         anadir->hide();
+        QTest::mouseClick(Hijo<QPushButton>(v, "BotonProbabilidades"), Qt::LeftButton);
+        Capturar(*Hijo<ui::VentanaProbabilidades>(v, "VentanaProbabilidades"),
+                 QStringLiteral("ventana_probabilidades"));
         QTest::mouseClick(Hijo<QPushButton>(v, "BotonArchivoTxt"), Qt::LeftButton);
         Capturar(*Hijo<ui::VentanaTipoArchivo>(v, "VentanaTipoArchivo"),
                  QStringLiteral("ventana_tipo_archivo"));
@@ -552,7 +557,12 @@ class PruebaCapturas : public QObject {
         Capturar(rechazadas, QStringLiteral("ventana_rechazadas"));
         ui::VentanaTablaReducciones tabla(inst.reductor.TablaReducciones());
         Capturar(tabla, QStringLiteral("ventana_tabla_reducciones"));
-        ui::VentanaReduccion reduccion(inst.reductor.Informe(24, 324));
+        auto informe = inst.reductor.Informe(24, 324);
+        engine::ProbabilidadesPremios premios;
+        premios.aciertos = {24.0 / 324, 1 - 24.0 / 324, 0, 0, 0, 0};
+        premios.pleno = premios.aciertos[0] / 16;
+        informe.premios = engine::FilasProbabilidades(premios);
+        ui::VentanaReduccion reduccion(informe);
         Capturar(reduccion, QStringLiteral("ventana_reduccion"));
         ui::VentanaAvisoBoletos aviso(inst.ajustes);
         Capturar(aviso, QStringLiteral("ventana_aviso_boletos"));

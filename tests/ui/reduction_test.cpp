@@ -174,6 +174,10 @@ class PruebaReduccion : public QObject {
         // 6 de 36: el 83,33 % menos y un 16,67 % de probabilidad de los 14.
         QCOMPARE(pruebas::TextoDe(*informe, "ValorReduccion"), QStringLiteral("83,33%"));
         QCOMPARE(pruebas::TextoDe(*informe, "ValorProbabilidad"), QStringLiteral("16,67%"));
+        // Con la ganadora entre las 36 columnas de la base: 6 de 36 con 14, las demás con 13.
+        QCOMPARE(pruebas::TextoDe(*informe, "Probabilidad0"), QStringLiteral("16,666667 %"));
+        QCOMPARE(pruebas::TextoDe(*informe, "Probabilidad1"), QStringLiteral("83,333333 %"));
+        QCOMPARE(pruebas::TextoDe(*informe, "Probabilidad2"), QStringLiteral("0,000000 %"));
     }
 };
 
