@@ -14,9 +14,11 @@ namespace {
 // El tiempo de la búsqueda y "&Detener": se mira cada tantas vueltas.
 class Plazo {
   public:
+    // La búsqueda para un poco antes: lo que cuesta acabar (ordenar, soltar la memoria) también
+    // cuenta en los segundos pedidos.
     Plazo(double segundos, base::Progreso& progreso)
         : limite_(std::chrono::duration_cast<std::chrono::steady_clock::duration>(
-              std::chrono::duration<double>(segundos))),
+              std::chrono::duration<double>(segundos * kParteParaBuscar))),
           progreso_(progreso) {}
 
     bool Acabado() {
@@ -32,6 +34,7 @@ class Plazo {
 
   private:
     static constexpr std::int64_t kVueltasPorMirada = 64;
+    static constexpr double kParteParaBuscar = 0.98;
     static std::int64_t Milesimas(std::chrono::steady_clock::duration d) {
         return std::max<std::int64_t>(
             1, std::chrono::duration_cast<std::chrono::milliseconds>(d).count());
