@@ -133,6 +133,14 @@ std::span<const Subcomando> Subcomandos() {
          "los de la Quiniela por Porcentajes o, sin ellos, igual entre los signos de la base.",
          {{"jugadas"}, {}},
          &ProbabilidadesCmd},
+        {"historico-condiciones",
+         "historico-condiciones RUTA.uxd [--carpeta DIR] [--json]",
+         "\"Histórico de condiciones\": las columnas ganadoras guardadas (\"Jornadas.rar\" de "
+         "las temporadas en la carpeta de trabajo) frente a las condiciones de la Combinación: "
+         "cuántas cumplen todas, cuántas deja pasar cada familia sola y la condición que "
+         "rechaza cada Jornada.",
+         {{}, {}},
+         &HistoricoCondicionesCmd},
         {"refundir",
          "refundir SALIDA.txt A.uxd B.uxd ... [--estructura continuo|separadores|columna] "
          "[--semilla S] [--json]",

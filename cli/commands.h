@@ -41,6 +41,7 @@ int PenaCmd(const Argumentos& argumentos, std::ostream& salida);
 OpcionesAdmitidas OpcionesPena();
 int VerificarCmd(const Argumentos& argumentos, std::ostream& salida);
 int ProbabilidadesCmd(const Argumentos& argumentos, std::ostream& salida);
+int HistoricoCondicionesCmd(const Argumentos& argumentos, std::ostream& salida);
 int RefundirCmd(const Argumentos& argumentos, std::ostream& salida);
 int RapidaBasicaCmd(const Argumentos& argumentos, std::ostream& salida);
 OpcionesAdmitidas OpcionesRapidaBasica();
