@@ -104,6 +104,12 @@ PaginaCondiciones::PaginaCondiciones(engine::Combinacion& combinacion, base::Dia
     pestanas_->setObjectName(QStringLiteral("PestanasCondiciones"));
     pestanas_->setUsesScrollButtons(false);
     caja->addWidget(pestanas_);
+    auto* historicoBoton = new QPushButton(QStringLiteral("&Histórico de condiciones"), this);
+    historicoBoton->setObjectName(QStringLiteral("BotonHistoricoCondiciones"));
+    historicoBoton->setToolTip(
+        QStringLiteral("Cuántas columnas ganadoras guardadas habrían pasado estas condiciones"));
+    connect(historicoBoton, &QPushButton::clicked, this, &PaginaCondiciones::historico);
+    caja->addWidget(historicoBoton, 0, Qt::AlignLeft);
     CrearGenerales();
     CrearSeguidos();
     CrearInterrupciones();

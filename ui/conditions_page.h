@@ -67,6 +67,8 @@ class PaginaCondiciones : public QWidget {
     void cambiado();
     // Se pulsó "% &Automático": la ventana calcula los porcentajes con la temporada.
     void automatico();
+    // Se pulsó "&Histórico de condiciones": la ventana lo calcula con las temporadas en disco.
+    void historico();
 
   private:
     // Un par mínimo/máximo de las condiciones visto desde sus dos listas: cómo se lee cada límite

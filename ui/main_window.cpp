@@ -1,4 +1,5 @@
 #include "ui/main_window.h"
+#include "ui/conditions_history_window.h"
 
 #include <QAction>
 #include <QCheckBox>
@@ -25,6 +26,7 @@
 
 #include "base/error.h"
 #include "builders/automatic_percent.h"
+#include "builders/conditions_history.h"
 #include "builders/match_info.h"
 #include "engine/analysis.h"
 #include "engine/combination_files.h"
@@ -162,6 +164,8 @@ void VentanaPrincipal::CrearPaginas() {
     connect(base_, &PaginaBase::golVisitado, this, &VentanaPrincipal::GolVisitado);
     connect(base_, &PaginaBase::partidoElegido, this, &VentanaPrincipal::PartidoElegido);
     connect(condiciones_, &PaginaCondiciones::cambiado, this, &VentanaPrincipal::CambioCondiciones);
+    connect(condiciones_, &PaginaCondiciones::historico, this,
+            &VentanaPrincipal::HistoricoCondiciones);
     connect(condiciones_, &PaginaCondiciones::automatico, this,
             &VentanaPrincipal::PorcentajesAutomaticos);
     connect(generar_->generar, &QPushButton::clicked, this, &VentanaPrincipal::Generar);
@@ -832,6 +836,17 @@ void VentanaPrincipal::RefrescarProgreso() {
     const auto& p = trabajo_.Progreso();
     if (reduciendo_ && p.Total() > 0) barra->setRange(0, static_cast<int>(p.Total()));
     barra->setValue(static_cast<int>(std::min<std::int64_t>(p.Hecho(), barra->maximum())));
+}
+
+void VentanaPrincipal::HistoricoCondiciones() {
+    try {
+        AbrirVentana(new VentanaHistoricoCondiciones(
+            builders::HistoricoDeCondiciones(comb_,
+                                             builders::GanadorasGuardadas(s_.carpetaTrabajo)),
+            this));
+    } catch (const base::Error& e) {
+        s_.dialogo.Mensaje(std::string("Error: ") + e.what(), base::Icono::Error);
+    }
 }
 
 void VentanaPrincipal::Rechazadas() {

@@ -215,6 +215,8 @@ class VentanaPrincipal : public QMainWindow {
     void Rechazadas();
     void TablaReducciones();
     void InfoReduccion();
+    // "&Histórico de condiciones" de la página de condiciones.
+    void HistoricoCondiciones();
     void SeleccionPulsada(int fila);
 
     void ConectarBoletos();

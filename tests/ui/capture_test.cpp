@@ -27,6 +27,7 @@
 #include "ui/blinking_greeting.h"
 #include "ui/boletos_notice.h"
 #include "ui/changes_window.h"
+#include "ui/conditions_history_window.h"
 #include "ui/failure_report_window.h"
 #include "ui/history_window.h"
 #include "ui/import_window.h"
@@ -564,6 +565,19 @@ class PruebaCapturas : public QObject {
         informe.premios = engine::FilasProbabilidades(premios);
         ui::VentanaReduccion reduccion(informe);
         Capturar(reduccion, QStringLiteral("ventana_reduccion"));
+        builders::HistoricoCondiciones historico;
+        historico.ganadoras = 6;
+        historico.enLaBase = 2;
+        historico.pasan = 3;
+        historico.familias = {{"Condiciones Generales", 5}, {"Grupos", 4}};
+        historico.jornadas = {{"23/24", 1, "1X21X21X21X21X", true, ""},
+                              {"23/24", 2, "XXXXX111112222", false, "Condiciones Generales"},
+                              {"23/24", 3, "1111XX22XX2211", true, ""},
+                              {"23/24", 4, "2X2X2X2X11X1X1", false, "Grupo nº 1"},
+                              {"22/23", 1, "12X12X12X12X12", false, ""},
+                              {"22/23", 2, "XXX111222XXX11", false, "Condiciones Generales"}};
+        ui::VentanaHistoricoCondiciones ventanaHistorico(historico);
+        Capturar(ventanaHistorico, QStringLiteral("ventana_historico_condiciones"));
         ui::VentanaAvisoBoletos aviso(inst.ajustes);
         Capturar(aviso, QStringLiteral("ventana_aviso_boletos"));
     }

@@ -5,9 +5,11 @@
 #include <QtTest>
 
 #include "builders/automatic_percent.h"
+#include "builders/conditions_history.h"
 #include "engine/editing_rules.h"
 #include "seasons/startup.h"
 #include "tests/ui/window_fixture.h"
+#include "ui/conditions_history_window.h"
 
 using namespace quinteva;
 using pruebas::Hijo;
@@ -265,6 +267,39 @@ class PruebaEdicionCondiciones : public QObject {
         QCOMPARE(Hijo<QLabel>(*v, "SumaMasBaja")->text(), QString());
         QVERIFY(!Hijo<QLineEdit>(*v, "SumaMinima")->isEnabled());
         QCOMPARE(Hijo<QLineEdit>(*v, "SumaMinima")->text(), QString());
+    }
+
+    // "&Histórico de condiciones" con la base de ejemplo y sin condiciones: cada ganadora guardada
+    // las cumple; en la base, las que llevan signos de ella.
+    void ElHistoricoDeCondicionesMuestraCadaGanadoraGuardada() {
+        pruebas::Instalacion inst;
+        auto v = EnCondiciones(inst);
+        QTest::mouseClick(Hijo<QPushButton>(*v, "BotonHistoricoCondiciones"), Qt::LeftButton);
+        auto* ventana = Hijo<ui::VentanaHistoricoCondiciones>(
+            *v, QStringLiteral("VentanaHistoricoCondiciones"));
+        const auto ganadoras = builders::GanadorasGuardadas(inst.trabajo.Ruta());
+        QVERIFY(!ganadoras.empty());
+        int enLaBase = 0;
+        for (const auto& g : ganadoras) {
+            bool dentro = true;
+            for (int p = 1; p <= engine::kPartidos; ++p) {
+                dentro = dentro &&
+                         v->Combinacion().base.Elegido(
+                             p, engine::IndiceSigno(g.signos[static_cast<std::size_t>(p - 1)]));
+            }
+            enLaBase += dentro ? 1 : 0;
+        }
+        const int n = static_cast<int>(ganadoras.size());
+        QCOMPARE(pruebas::TextoDe(*ventana, "TextoGanadoras"),
+                 QStringLiteral("Columnas ganadoras guardadas: %1 (en la Quiniela Base: %2)")
+                     .arg(n)
+                     .arg(enLaBase));
+        QCOMPARE(pruebas::TextoDe(*ventana, "TextoPasan"),
+                 QStringLiteral("Cumplen todas las condiciones: %1").arg(n));
+        auto* jornadas = Hijo<QTableWidget>(*ventana, "RejillaJornadas");
+        QCOMPARE(jornadas->rowCount(), n);
+        QCOMPARE(jornadas->item(0, 4)->text(), QStringLiteral("Cumple"));
+        QCOMPARE(Hijo<QTableWidget>(*ventana, "RejillaFamilias")->rowCount(), 0);
     }
 
     void ElPorcentajeAutomaticoLlenaSumasDesdeLaTemporada() {
