@@ -10,6 +10,7 @@
 #include <QVBoxLayout>
 
 #include "outputs/analysis_view.h"
+#include "ui/help_window.h"
 #include "ui/qt_text.h"
 #include "ui/report_grid.h"
 
@@ -78,7 +79,7 @@ VentanaAnalisisDatos::VentanaAnalisisDatos(const std::filesystem::path& carpetaT
     // La ayuda llega con el archivo de ayuda.
     auto* ayuda = new QPushButton(QStringLiteral("Ay&uda"), this);
     ayuda->setObjectName(QStringLiteral("BotonAyuda"));
-    ayuda->setEnabled(false);
+    ConectarAyuda(ayuda);
     auto* salir = new QPushButton(QStringLiteral("&Salir"), this);
     salir->setObjectName(QStringLiteral("BotonSalir"));
     botones->addStretch();

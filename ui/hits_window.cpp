@@ -20,6 +20,7 @@
 #include "syndicates/pena_hits.h"
 #include "ui/blinking_greeting.h"
 #include "ui/failure_report_window.h"
+#include "ui/help_window.h"
 #include "ui/located_columns_window.h"
 #include "ui/qt_text.h"
 
@@ -161,9 +162,7 @@ QVBoxLayout* VentanaAciertos::CrearBotones() {
     datos_ = Boton(contenido_, caja, QStringLiteral("&Datos"), QStringLiteral("BotonDatos"));
     pena_ = Boton(contenido_, caja, QStringLiteral("A &Peña"), QStringLiteral("BotonPena"));
     caja->addStretch();
-    // La ayuda llega con el archivo de ayuda.
-    Boton(contenido_, caja, QStringLiteral("Ay&uda"), QStringLiteral("BotonAyuda"))
-        ->setEnabled(false);
+    ConectarAyuda(Boton(contenido_, caja, QStringLiteral("Ay&uda"), QStringLiteral("BotonAyuda")));
     auto* salir = Boton(contenido_, caja, QStringLiteral("&Salir"), QStringLiteral("BotonSalir"));
     // Cualquier acción para el parpadeo del saludo.
     for (QPushButton* b :

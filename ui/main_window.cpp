@@ -1,7 +1,9 @@
 #include "ui/main_window.h"
 #include "ui/conditions_history_window.h"
+#include "ui/help_window.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QCheckBox>
 #include <QCloseEvent>
 #include <QDialog>
@@ -85,6 +87,8 @@ VentanaPrincipal::VentanaPrincipal(Servicios servicios, QWidget* madre)
     CrearPaginas();
     CrearMenus();
     CrearBarra();
+    FijarCarpetaAyuda(s_.carpetaDatos / "ayuda");
+    qApp->installEventFilter(new TeclaDeAyuda(this));
     temporadaEtiqueta_ = new QLabel(this);
     temporadaEtiqueta_->setObjectName(QStringLiteral("EtiquetaTemporada"));
     statusBar()->addPermanentWidget(temporadaEtiqueta_);
@@ -326,7 +330,8 @@ void VentanaPrincipal::CrearMenus() {
 
     QMenu* ayuda = menuBar()->addMenu(QStringLiteral("Ay&uda"));
     ayuda->setObjectName(QStringLiteral("MenuAyuda"));
-    Accion(ayuda, QStringLiteral("&Ayuda de Quinteva"), QStringLiteral("AccionAyuda"), false);
+    connect(Accion(ayuda, QStringLiteral("&Ayuda de Quinteva"), QStringLiteral("AccionAyuda")),
+            &QAction::triggered, this, [this] { AbrirAyuda(QStringLiteral("indice"), this); });
     connect(Accion(ayuda, QStringLiteral("A&cerca de..."), QStringLiteral("AccionAcercaDe")),
             &QAction::triggered, this, &VentanaPrincipal::AcercaDe);
 }
@@ -365,6 +370,11 @@ void VentanaPrincipal::CrearBarra() {
     barra_->addSeparator();
     boton(QStyle::SP_DialogHelpButton, QStringLiteral("Ayuda"), QStringLiteral("BarraAyuda"),
           nullptr);
+    // La de la página que se ve.
+    auto* ayuda = findChild<QAction*>(QStringLiteral("BarraAyuda"));
+    ayuda->setEnabled(true);
+    connect(ayuda, &QAction::triggered, this,
+            [this] { AbrirAyuda(TemaDeAyuda(paginas_->currentWidget()), this); });
 }
 
 // ---------------------------------------------------------------------------------------------

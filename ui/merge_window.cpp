@@ -8,6 +8,7 @@
 #include <QRadioButton>
 #include <QTableWidget>
 
+#include "ui/help_window.h"
 #include "ui/qt_text.h"
 #include "ui/season_window_parts.h"
 
@@ -65,9 +66,8 @@ VentanaRefundir::VentanaRefundir(base::Dialogo& dialogo, base::Azar& azar,
     connect(
         BotonVentana(this, botones, QStringLiteral("&Cancelar"), QStringLiteral("BotonCancelar")),
         &QPushButton::clicked, this, &QDialog::close);
-    // La ayuda llega con las páginas de ayuda del programa.
-    BotonVentana(this, botones, QStringLiteral("&Ayuda"), QStringLiteral("BotonAyuda"))
-        ->setEnabled(false);
+    ConectarAyuda(
+        BotonVentana(this, botones, QStringLiteral("&Ayuda"), QStringLiteral("BotonAyuda")));
     caja->addLayout(botones);
     resize(sizeHint().width() * 5 / 4, sizeHint().height());
 }

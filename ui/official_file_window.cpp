@@ -7,6 +7,8 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "ui/help_window.h"
+
 namespace quinteva::ui {
 namespace {
 
@@ -63,7 +65,7 @@ VentanaArchivoOficial::VentanaArchivoOficial(Peticion peticion, base::Dialogo& d
     auto* generar = Boton(this, QStringLiteral("&Generar"), QStringLiteral("BotonGenerarOficial"));
     auto* cancelar = Boton(this, QStringLiteral("&Cancelar"), QStringLiteral("BotonCancelar"));
     auto* ayuda = Boton(this, QStringLiteral("Ay&uda"), QStringLiteral("BotonAyuda"));
-    ayuda->setEnabled(false);
+    ConectarAyuda(ayuda);
     botones->addWidget(generar);
     botones->addWidget(cancelar);
     botones->addStretch();

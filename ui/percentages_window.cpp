@@ -8,6 +8,7 @@
 #include <QTableWidget>
 
 #include "ui/columns_price_boxes.h"
+#include "ui/help_window.h"
 #include "ui/qt_text.h"
 #include "ui/season_window_parts.h"
 #include "ui/working_label.h"
@@ -71,9 +72,8 @@ VentanaPorcentajes::VentanaPorcentajes(const engine::Combinacion& comb, float pr
     connect(BotonVentana(this, botones, QStringLiteral("&Estadísticas"),
                          QStringLiteral("BotonEstadisticas")),
             &QPushButton::clicked, this, &VentanaPorcentajes::estadisticas);
-    // La ayuda llega con las páginas de ayuda del programa.
-    BotonVentana(this, botones, QStringLiteral("Ay&uda"), QStringLiteral("BotonAyuda"))
-        ->setEnabled(false);
+    ConectarAyuda(
+        BotonVentana(this, botones, QStringLiteral("Ay&uda"), QStringLiteral("BotonAyuda")));
     connect(BotonVentana(this, botones, QStringLiteral("&Salir"), QStringLiteral("BotonSalir")),
             &QPushButton::clicked, this, &QDialog::close);
     caja->addLayout(botones);

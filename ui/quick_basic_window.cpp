@@ -9,6 +9,7 @@
 #include <QPushButton>
 
 #include "ui/columns_price_boxes.h"
+#include "ui/help_window.h"
 #include "ui/qt_text.h"
 #include "ui/season_window_parts.h"
 #include "ui/working_label.h"
@@ -56,9 +57,8 @@ VentanaRapidaBasica::VentanaRapidaBasica(const engine::SetCondiciones& condicion
                                  QStringLiteral("BotonGenerarBasica"));
     connect(generar, &QPushButton::clicked, this, &VentanaRapidaBasica::generar);
     cajas_->IntroLlevaA(generar);
-    // La ayuda llega con las páginas de ayuda del programa.
-    BotonVentana(this, botones, QStringLiteral("Ay&uda"), QStringLiteral("BotonAyuda"))
-        ->setEnabled(false);
+    ConectarAyuda(
+        BotonVentana(this, botones, QStringLiteral("Ay&uda"), QStringLiteral("BotonAyuda")));
     connect(BotonVentana(this, botones, QStringLiteral("&Salir"), QStringLiteral("BotonSalir")),
             &QPushButton::clicked, this, &QDialog::close);
     caja->addLayout(botones);

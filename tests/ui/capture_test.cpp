@@ -29,6 +29,7 @@
 #include "ui/changes_window.h"
 #include "ui/conditions_history_window.h"
 #include "ui/failure_report_window.h"
+#include "ui/help_window.h"
 #include "ui/history_window.h"
 #include "ui/import_window.h"
 #include "ui/json_file_window.h"
@@ -578,6 +579,11 @@ class PruebaCapturas : public QObject {
                               {"22/23", 2, "XXX111222XXX11", false, "Condiciones Generales"}};
         ui::VentanaHistoricoCondiciones ventanaHistorico(historico);
         Capturar(ventanaHistorico, QStringLiteral("ventana_historico_condiciones"));
+        ui::VentanaAyuda ayuda(std::filesystem::path(QUINTEVA_DATOS) / "ayuda", nullptr);
+        ayuda.Mostrar(QStringLiteral("guia"));
+        Capturar(ayuda, QStringLiteral("ventana_ayuda_guia"));
+        ayuda.Mostrar(QStringLiteral("PaginaReducir"));
+        Capturar(ayuda, QStringLiteral("ventana_ayuda_reducir"));
         ui::VentanaAvisoBoletos aviso(inst.ajustes);
         Capturar(aviso, QStringLiteral("ventana_aviso_boletos"));
     }
