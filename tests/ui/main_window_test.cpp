@@ -77,7 +77,8 @@ class PruebaVentanaPrincipal : public QObject {
         QVERIFY(Hijo<QAction>(*v, "AccionRefundir")->isEnabled());
         QVERIFY(Hijo<QAction>(*v, "AccionResumen")->isEnabled());
         QVERIFY(Hijo<QAction>(*v, "AccionCrearPena")->isEnabled());
-        QVERIFY(!Hijo<QAction>(*v, "AccionAyuda")->isEnabled());
+        QVERIFY(Hijo<QAction>(*v, "AccionAyuda")->isEnabled());
+        QVERIFY(Hijo<QAction>(*v, "BarraAyuda")->isEnabled());
         QVERIFY(!Hijo<QAction>(*v, "AccionGuardar")->isEnabled());
         QCOMPARE(Hijo<QAction>(*v, "AccionGuardarComo")->text(), QStringLiteral("G&uardar como"));
         QVERIFY(!Hijo<QAction>(*v, "AccionReciente1")->isVisible());
