@@ -86,6 +86,8 @@ void FijarCarpetaAyuda(const std::filesystem::path& carpeta) { Carpeta() = carpe
 
 QString TemaDeAyuda(const QWidget* widget) {
     for (const QWidget* w = widget; w; w = w->parentWidget()) {
+        const QString propio = w->property(kPropiedadTema).toString();
+        if (!propio.isEmpty()) return propio;
         const QString nombre = w->objectName();
         if (nombre.startsWith(QStringLiteral("Pagina")) ||
             (nombre.startsWith(QStringLiteral("Ventana")) &&

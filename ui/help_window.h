@@ -31,8 +31,10 @@ class VentanaAyuda : public QWidget {
 // La carpeta de las páginas: la pone la ventana principal al crearse.
 void FijarCarpetaAyuda(const std::filesystem::path& carpeta);
 
-// El tema de un widget: el nombre de la primera ventana o página que lo contiene (él incluido);
-// "indice" si no hay ninguna.
+// El tema de un widget: el nombre de la primera ventana o página que lo contiene (él incluido),
+// salvo que una de ellas diga el suyo en la propiedad kPropiedadTema (la principal da el de la
+// página que se ve); "indice" si no hay ninguna.
+inline constexpr const char* kPropiedadTema = "temaDeAyuda";
 QString TemaDeAyuda(const QWidget* widget);
 
 // Abre la ayuda en el tema, sobre la ventana de "desde" (la que ya estaba abierta se cierra).

@@ -88,6 +88,12 @@ VentanaPrincipal::VentanaPrincipal(Servicios servicios, QWidget* madre)
     CrearMenus();
     CrearBarra();
     FijarCarpetaAyuda(s_.carpetaDatos / "ayuda");
+    // F1 fuera de las páginas (en los botones de la izquierda, en el panel) da la de la página.
+    const auto temaDeLaPagina = [this] {
+        setProperty(kPropiedadTema, paginas_->currentWidget()->objectName());
+    };
+    temaDeLaPagina();
+    connect(paginas_, &QStackedWidget::currentChanged, this, temaDeLaPagina);
     qApp->installEventFilter(new TeclaDeAyuda(this));
     temporadaEtiqueta_ = new QLabel(this);
     temporadaEtiqueta_->setObjectName(QStringLiteral("EtiquetaTemporada"));

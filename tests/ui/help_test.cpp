@@ -106,6 +106,13 @@ class PruebaAyuda : public QObject {
         pruebas::Pagina(*v, ui::kQuinBase);
         Hijo<QAction>(*v, "BarraAyuda")->trigger();
         QCOMPARE(Ayuda(*v)->Tema(), QStringLiteral("PaginaBase"));
+        // Con el foco fuera de las páginas, la de la página que se ve.
+        pruebas::Pagina(*v, ui::kCondicion);
+        auto* botonCondiciones =
+            Hijo<QPushButton>(*v, QStringLiteral("BotonPagina%1").arg(ui::kCondicion));
+        botonCondiciones->setFocus();
+        QTest::keyClick(botonCondiciones, Qt::Key_F1);
+        QCOMPARE(Ayuda(*v)->Tema(), QStringLiteral("PaginaCondiciones"));
 
         Hijo<QAction>(*v, "AccionRefundir")->trigger();
         auto* refundir = Hijo<QDialog>(*v, "VentanaRefundir");
