@@ -29,7 +29,7 @@ std::string ColumnaAlAzar(std::mt19937& azar) {
     return s + "1";
 }
 
-// La base: todo triples menos el partido 14, solo "1". Condiciones: como mucho 4 equis
+// La base: triples salvo el partido 14, solo "1". Condiciones: como mucho 4 equis
 // (Generales) y el Grupo 1, partidos 1 a 3, con como mucho un "1".
 engine::Combinacion Combinacion() {
     engine::Combinacion c;
