@@ -127,11 +127,13 @@ std::span<const Subcomando> Subcomandos() {
          {{"al"}, {}},
          &VerificarCmd},
         {"probabilidades",
-         "probabilidades RUTA.uxd [--jugadas condicionadas|reducidas] [--json]",
+         "probabilidades RUTA.uxd [--jugadas condicionadas|reducidas] [--pleno PORCENTAJE] "
+         "[--json]",
          "La probabilidad de que la mejor columna jugada tenga 14, 13, 12, 11 o 10 aciertos, o "
          "menos, y la del Pleno al 15, con la ganadora sacada con los porcentajes de \"Sumas\", "
-         "los de la Quiniela por Porcentajes o, sin ellos, igual entre los signos de la base.",
-         {{"jugadas"}, {}},
+         "los de la Quiniela por Porcentajes o, sin ellos, igual entre los signos de la base; el "
+         "Pleno jugado, uno de 16 salvo que --pleno diga su probabilidad.",
+         {{"jugadas", "pleno"}, {}},
          &ProbabilidadesCmd},
         {"historico-condiciones",
          "historico-condiciones RUTA.uxd [--carpeta DIR] [--json]",

@@ -1,4 +1,6 @@
 // probabilidades: la de cada premio para las columnas que se juegan de una Combinación.
+#include <algorithm>
+
 #include "cli/commands.h"
 #include "engine/combination_files.h"
 #include "engine/prize_odds.h"
@@ -8,7 +10,22 @@ namespace quinteva::cli {
 namespace {
 
 constexpr std::string_view kUso =
-    "probabilidades RUTA.uxd [--jugadas condicionadas|reducidas] [--json]";
+    "probabilidades RUTA.uxd [--jugadas condicionadas|reducidas] [--pleno PORCENTAJE] [--json]";
+
+// --pleno: la probabilidad, en tanto por ciento, del resultado jugado del Pleno al 15.
+double ProbabilidadDelPleno(const Argumentos& a) {
+    const auto texto = a.Valor("pleno");
+    if (!texto) return engine::kPlenoUniforme;
+    std::string numero = *texto;
+    std::replace(numero.begin(), numero.end(), ',', '.');
+    try {
+        std::size_t fin = 0;
+        const double v = std::stod(numero, &fin);
+        if (fin == numero.size() && v >= 0 && v <= 100) return v / 100;
+    } catch (const std::exception&) {
+    }
+    throw ErrorDeUso{"--pleno es un tanto por ciento de 0 a 100: " + *texto};
+}
 
 // Las columnas: las que se piden; si no, el conjunto elegido en Boletos; si no, las reducidas si
 // las hay y si no las condicionadas.
@@ -32,7 +49,8 @@ int ProbabilidadesCmd(const Argumentos& a, std::ostream& salida) {
     engine::Combinacion comb;
     comb.ruta = a.Posicionales()[0];
     engine::CargarCabecera(comb, engine::LeerCabecera(comb.ruta));
-    const auto p = engine::ProbabilidadesDeArchivo(comb, ArchivoJugado(a, comb));
+    auto p = engine::ProbabilidadesDeArchivo(comb, ArchivoJugado(a, comb));
+    engine::PonerPleno(p, ProbabilidadDelPleno(a));
     if (a.Json()) {
         salida << engine::ProbabilidadesJson(p) << '\n';
         return 0;

@@ -13,7 +13,6 @@ namespace quinteva::engine {
 namespace {
 
 constexpr std::uint8_t kLejos = 5;  // más de 4 signos: menos de 10 aciertos
-constexpr double kResultadosPleno = 16.0;
 
 // Los porcentajes de una tabla [signo][partido] llevados a sumar 1; los partidos sin ninguno, de
 // la base.
@@ -148,6 +147,10 @@ std::vector<std::pair<std::string, std::string>> FilasProbabilidades(
     return filas;
 }
 
+void PonerPleno(ProbabilidadesPremios& p, double probabilidadDelPleno) {
+    p.pleno = p.aciertos[0] * probabilidadDelPleno;
+}
+
 ProbabilidadesPremios Probabilidades(std::span<const std::int32_t> jugadas,
                                      const ProbabilidadesSignos& signos) {
     ProbabilidadesPremios r;
@@ -156,7 +159,7 @@ ProbabilidadesPremios Probabilidades(std::span<const std::int32_t> jugadas,
         return r;
     }
     Sumar(Distancias(jugadas), signos, r.aciertos);
-    r.pleno = r.aciertos[0] / kResultadosPleno;
+    PonerPleno(r, kPlenoUniforme);
     return r;
 }
 

@@ -28,6 +28,11 @@ struct ProbabilidadesPremios {
     double pleno = 0;
 };
 
+// El Pleno al 15 jugado sale con esta probabilidad si no se dice otra: uno de sus 16 resultados.
+inline constexpr double kPlenoUniforme = 1.0 / 16;
+// La del Pleno con los 14 aciertos, con la probabilidad que se dé al resultado jugado del Pleno.
+void PonerPleno(ProbabilidadesPremios& p, double probabilidadDelPleno);
+
 // Exactas, sin sorteos: la menor distancia de cada una de las 3^14 columnas ganadoras a las
 // jugadas sale de un recorrido en anchura desde todas las jugadas a la vez (hasta 4 signos; más
 // lejos son menos de 10), y cada ganadora pesa el producto de las probabilidades de sus signos.

@@ -185,9 +185,9 @@ void VentanaPrincipal::ArchivoJson() {
 void VentanaPrincipal::ProbabilidadesJugadas() {
     const bool reducida = comb_.jugada == "red";
     const auto almacen = s_.carpetaTrabajo / (reducida ? engine::kRedTmp : engine::kCmbTmp);
-    AbrirVentana(new VentanaProbabilidades(
-        reducida ? "reducida" : "condicionada", engine::OrigenDeLasProbabilidades(comb_),
-        engine::FilasProbabilidades(engine::ProbabilidadesDeArchivo(comb_, almacen)), this));
+    AbrirVentana(new VentanaProbabilidades(reducida ? "reducida" : "condicionada",
+                                           engine::OrigenDeLasProbabilidades(comb_),
+                                           engine::ProbabilidadesDeArchivo(comb_, almacen), this));
 }
 
 void VentanaPrincipal::RefrescarPaginaBoletos() {

@@ -1,5 +1,6 @@
 #include "ui/odds_window.h"
 
+#include <QDoubleSpinBox>
 #include <QFormLayout>
 #include <QLabel>
 #include <QVBoxLayout>
@@ -21,8 +22,9 @@ void AnadirProbabilidades(QFormLayout* formulario, const FilasDeProbabilidad& fi
 }
 
 VentanaProbabilidades::VentanaProbabilidades(const std::string& conjunto, const std::string& origen,
-                                             const FilasDeProbabilidad& filas, QWidget* madre)
-    : QDialog(madre) {
+                                             const engine::ProbabilidadesPremios& premios,
+                                             QWidget* madre)
+    : QDialog(madre), premios_(premios) {
     setObjectName(QStringLiteral("VentanaProbabilidades"));
     setWindowTitle(QStringLiteral("Probabilidades de premio"));
     auto* caja = new QVBoxLayout(this);
@@ -33,8 +35,21 @@ VentanaProbabilidades::VentanaProbabilidades(const std::string& conjunto, const 
     explicacion->setWordWrap(true);
     caja->addWidget(explicacion);
     auto* formulario = new QFormLayout;
+    const auto filas = engine::FilasProbabilidades(premios_);
     AnadirProbabilidades(formulario, filas, this);
+    auto* pleno = new QDoubleSpinBox(this);
+    pleno->setObjectName(QStringLiteral("CampoPleno"));
+    pleno->setRange(0, 100);
+    pleno->setDecimals(2);
+    pleno->setSuffix(QStringLiteral(" %"));
+    pleno->setValue(100 * engine::kPlenoUniforme);
+    formulario->addRow(QStringLiteral("Probabilidad del Pleno jugado"), pleno);
     caja->addLayout(formulario);
+    auto* filaPleno = findChild<QLabel*>(QStringLiteral("Probabilidad%1").arg(filas.size() - 1));
+    connect(pleno, &QDoubleSpinBox::valueChanged, this, [this, filaPleno](double porcentaje) {
+        engine::PonerPleno(premios_, porcentaje / 100);
+        filaPleno->setText(Q(engine::FilasProbabilidades(premios_).back().second));
+    });
     BotonAceptar(this, caja);
 }
 

@@ -128,6 +128,10 @@ TEST(CliProbabilidades, LaReducidaAlTreceDaTreceOCatorceSeguroYLaCondicionadaCat
               "11 aciertos: 0,000000 %\n10 aciertos: 0,000000 %\nMenos de 10: 0,000000 %\n"
               "Pleno al 15: 0,694444 %\n");
     EXPECT_EQ(EjecutarCli("probabilidades " + Q(q.uxd) + " --jugadas todas" + q.trabajo).codigo, 2);
+    // El Pleno jugado con la mitad de probabilidad: la del Pleno al 15, la mitad de la de los 14.
+    const Salida pleno = EjecutarCli("probabilidades " + Q(q.uxd) + " --pleno 50" + q.trabajo);
+    EXPECT_NE(pleno.salida.find("Pleno al 15: 5,555556 %\n"), std::string::npos) << pleno.salida;
+    EXPECT_EQ(EjecutarCli("probabilidades " + Q(q.uxd) + " --pleno 101" + q.trabajo).codigo, 2);
 }
 
 TEST(CliReducir, SinSistemaLoDice) {

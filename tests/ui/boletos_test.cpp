@@ -1,5 +1,6 @@
 #include <QAction>
 #include <QCheckBox>
+#include <QDoubleSpinBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -339,6 +340,9 @@ class PruebaBoletos : public QObject {
         QCOMPARE(pruebas::TextoDe(*ventana, "Probabilidad0"), QStringLiteral("100,000000 %"));
         QCOMPARE(pruebas::TextoDe(*ventana, "Probabilidad5"), QStringLiteral("0,000000 %"));
         QCOMPARE(pruebas::TextoDe(*ventana, "Probabilidad6"), QStringLiteral("6,250000 %"));
+        // Con otra probabilidad del Pleno jugado, la del Pleno al 15 cambia.
+        Hijo<QDoubleSpinBox>(*ventana, "CampoPleno")->setValue(20);
+        QCOMPARE(pruebas::TextoDe(*ventana, "Probabilidad6"), QStringLiteral("20,000000 %"));
         QVERIFY(pruebas::TextoDe(*ventana, "OrigenProbabilidades")
                     .endsWith(QStringLiteral("todas igual de probables.")));
         QCOMPARE(inst.dialogo.Registro().size(), dichos);
