@@ -129,8 +129,7 @@ Medida Medir(const Caso& caso, int radio, double segundos) {
     base::SinProgreso progreso;
     inicio = Reloj::now();
     const auto elegidas =
-        engine::CubrirOptimizado(codigos, radio, {segundos, 1}, progreso, Semilla(caso, radio))
-            .elegidas;
+        engine::CubrirOptimizado(codigos, radio, {segundos, 1}, progreso, Semilla(caso, radio));
     m.segundosOptimizada = Segundos(inicio);
     m.optimizada = elegidas.size();
     std::vector<engine::RegistroColumna> generadas;

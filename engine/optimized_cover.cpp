@@ -26,11 +26,9 @@ class Plazo {
         const auto gastado = std::chrono::steady_clock::now() - inicio_;
         progreso_.Avance(std::min<std::int64_t>(Milesimas(gastado), Milesimas(limite_)),
                          Milesimas(limite_));
-        detenido_ = progreso_.Detenido();
-        acabado_ = detenido_ || gastado >= limite_;
+        acabado_ = progreso_.Detenido() || gastado >= limite_;
         return acabado_;
     }
-    bool Detenido() const { return detenido_; }
 
   private:
     static constexpr std::int64_t kVueltasPorMirada = 64;
@@ -45,7 +43,6 @@ class Plazo {
     base::Progreso& progreso_;
     std::int64_t vueltas_ = 0;
     bool acabado_ = false;
-    bool detenido_ = false;
 };
 
 // La voraz por la que más cubre de lo que falta. La ganancia de cada columna (las de su entorno
@@ -118,12 +115,11 @@ void QuitarSobrantes(const Entornos& entornos, int radio, std::vector<std::size_
 
 }  // namespace
 
-RecubrimientoOptimizado CubrirOptimizado(std::span<const std::int32_t> codigos, int radio,
-                                         const OpcionesOptimizada& opciones,
-                                         base::Progreso& progreso,
-                                         std::span<const std::size_t> semilla) {
-    RecubrimientoOptimizado resultado;
-    if (codigos.empty()) return resultado;
+std::vector<std::size_t> CubrirOptimizado(std::span<const std::int32_t> codigos, int radio,
+                                          const OpcionesOptimizada& opciones,
+                                          base::Progreso& progreso,
+                                          std::span<const std::size_t> semilla) {
+    if (codigos.empty()) return {};
     Plazo plazo(opciones.segundos, progreso);
     const Entornos entornos(codigos);
     auto mejor = EnOrden(entornos, radio);
@@ -143,9 +139,7 @@ RecubrimientoOptimizado CubrirOptimizado(std::span<const std::int32_t> codigos, 
         if (plazo.Acabado()) break;
         sinMenguar = busqueda.Paso() ? 0 : sinMenguar + 1;
     }
-    resultado.elegidas = busqueda.Elegidas();
-    resultado.detenida = plazo.Detenido();
-    return resultado;
+    return busqueda.Elegidas();
 }
 
 }  // namespace quinteva::engine

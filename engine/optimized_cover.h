@@ -16,24 +16,18 @@ struct OpcionesOptimizada {
     std::size_t paciencia = 500;
 };
 
-struct RecubrimientoOptimizado {
-    std::vector<std::size_t> elegidas;  // índices de las que se quedan, en orden
-    bool detenida = false;              // se paró con "&Detener": es el mejor hallado hasta ahí
-};
-
 // "Reducción optimizada": entre unas columnas (sus códigos, distintos y válidos), unas pocas que
-// las cubren todas a "radio" signos o menos. Se parte de la voraz del orden dado y de la voraz
-// por la que más cubre de lo que falta (con ganancias perezosas: una ganancia solo se recalcula
-// al salir la primera de la cola), cada una sin las que sobran; desde la menor, la búsqueda local
+// las cubren todas a "radio" signos o menos; devuelve los índices de las que se quedan, en orden.
+// Se parte de la voraz del orden dado y de la voraz por la que más cubre de lo que falta, cada una
+// sin las que sobran; desde la menor, la búsqueda local
 // cambia elegidas una por una hasta que pasan "paciencia" cambios por elegida sin menguar, se acaba
-// el tiempo o se pide "&Detener". Siempre es un recubrimiento y nunca mayor que la voraz del orden
-// dado; con la misma semilla y acabando antes del tiempo, el mismo. Progreso avanza con el tiempo
-// gastado.
-// "semilla" (índices) es otro comienzo: se completa con las que falten, en orden, y compite con
-// las dos voraces.
-RecubrimientoOptimizado CubrirOptimizado(std::span<const std::int32_t> codigos, int radio,
-                                         const OpcionesOptimizada& opciones,
-                                         base::Progreso& progreso,
-                                         std::span<const std::size_t> semilla = {});
+// el tiempo o se pide "&Detener" (se queda la mejor hallada). Siempre es un recubrimiento y nunca
+// mayor que la voraz del orden dado; con la misma semilla y acabando antes del tiempo, el mismo.
+// Progreso avanza con el tiempo gastado. "semilla" (índices) es otro comienzo: se completa con las
+// que falten, en orden, y compite con las dos voraces.
+std::vector<std::size_t> CubrirOptimizado(std::span<const std::int32_t> codigos, int radio,
+                                          const OpcionesOptimizada& opciones,
+                                          base::Progreso& progreso,
+                                          std::span<const std::size_t> semilla = {});
 
 }  // namespace quinteva::engine

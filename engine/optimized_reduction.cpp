@@ -68,8 +68,7 @@ ResultadoOptimizada ReducirOptimizado(Combinacion& comb,
 
     std::vector<char> quedan(activas.columnas.size(), 0);
     for (std::size_t i = 0; i < activas.columnas.size(); ++i) quedan[i] = activas.codigos[i] < 0;
-    for (const std::size_t e : cubierta.elegidas)
-        quedan[static_cast<std::size_t>(activas.conCodigo[e])] = 1;
+    for (const std::size_t e : cubierta) quedan[static_cast<std::size_t>(activas.conCodigo[e])] = 1;
     base::AnexadorRegistros red(carpetaTrabajo / kRedTmp, RegistroColumna::kLongitud);
     RegistroColumna guardada{{}, comb.pleno, kActiva};
     for (std::size_t i = 0; i < activas.columnas.size(); ++i) {

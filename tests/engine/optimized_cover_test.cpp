@@ -58,15 +58,14 @@ TEST(ReduccionOptimizada, CubreSiempreYNuncaGuardaMasQueLaVoraz) {
         for (const auto& r : columnas) codigos.push_back(CodigoColumna(r.columna));
         const int radio = 1 + static_cast<int>(motor() % 3);
         base::SinProgreso progreso;
-        const auto elegidas = CubrirOptimizado(codigos, radio, {10.0, 7, 5}, progreso).elegidas;
+        const auto elegidas = CubrirOptimizado(codigos, radio, {10.0, 7, 5}, progreso);
         std::vector<RegistroColumna> guardadas;
         for (const std::size_t i : elegidas) guardadas.push_back(columnas[i]);
         EXPECT_TRUE(VerificarGarantia(columnas, guardadas, radio).Cumple()) << vuelta;
         const std::size_t voraz = Voraz(columnas, radio);
         EXPECT_LE(elegidas.size(), voraz) << vuelta;
         if (vuelta % 8 == 0) {
-            EXPECT_EQ(CubrirOptimizado(codigos, radio, {10.0, 7, 5}, progreso).elegidas, elegidas)
-                << vuelta;
+            EXPECT_EQ(CubrirOptimizado(codigos, radio, {10.0, 7, 5}, progreso), elegidas) << vuelta;
         }
         totalOptimizada += elegidas.size();
         totalVoraz += voraz;

@@ -118,7 +118,7 @@ TEST(Probabilidades, UnaReduccionDaSuNivelConProbabilidadUno) {
     const ProbabilidadesSignos p = ProbabilidadesDeLaCombinacion(comb);
     base::SinProgreso progreso;
     for (int radio = 1; radio <= 3; ++radio) {
-        const auto elegidas = CubrirOptimizado(desarrollo, radio, {5.0, 1, 5}, progreso).elegidas;
+        const auto elegidas = CubrirOptimizado(desarrollo, radio, {5.0, 1, 5}, progreso);
         std::vector<std::int32_t> jugadas;
         for (const std::size_t e : elegidas) jugadas.push_back(desarrollo[e]);
         const auto r = Probabilidades(jugadas, p);
