@@ -7,8 +7,6 @@
 #include <system_error>
 #include <vector>
 
-#include "base/error.h"
-
 namespace quinteva::base {
 
 namespace {
@@ -22,19 +20,6 @@ Archivo AbrirParaLeer(const std::filesystem::path& ruta) {
 }
 
 }  // namespace
-
-void LeerPorTrozos(const std::filesystem::path& ruta,
-                   const std::function<void(std::span<const unsigned char>)>& ver) {
-    const Archivo f = AbrirParaLeer(ruta);
-    if (!f) throw Error("No se pudo leer el archivo " + ruta.string());
-    std::vector<unsigned char> trozo(kTrozo);
-    while (true) {
-        const std::size_t leidos = std::fread(trozo.data(), 1, trozo.size(), f.get());
-        if (leidos == 0) break;
-        ver({trozo.data(), leidos});
-    }
-    if (std::ferror(f.get())) throw Error("No se pudo leer el archivo " + ruta.string());
-}
 
 bool MismoContenido(const std::filesystem::path& origen, const std::filesystem::path& copia,
                     std::uintmax_t bytes) {

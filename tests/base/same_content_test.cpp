@@ -50,18 +50,6 @@ TEST(MismoContenido, SoloConLosMismosBytesYLaMismaLongitud) {
     EXPECT_FALSE(MismoContenido(carpeta / "origen", carpeta / "falta", bytes.size()));
 }
 
-TEST(LeerPorTrozos, DaCadaByteEnOrdenYSinArchivoEsUnError) {
-    pruebas::CarpetaTemporal carpeta;
-    const auto bytes = BytesAlAzar((2 << 20) + 5, 2);
-    Escribir(carpeta / "a", bytes);
-    std::vector<unsigned char> vistos;
-    LeerPorTrozos(carpeta / "a", [&](std::span<const unsigned char> t) {
-        vistos.insert(vistos.end(), t.begin(), t.end());
-    });
-    EXPECT_EQ(vistos, bytes);
-    EXPECT_THROW(LeerPorTrozos(carpeta / "falta", [](std::span<const unsigned char>) {}), Error);
-}
-
 TEST(CopiarAtomicoViendo, CopiaCadaByteYLosEnseniaUnaVezEnOrden) {
     pruebas::CarpetaTemporal carpeta;
     const auto bytes = BytesAlAzar((2 << 20) + 12345, 7);
