@@ -1,5 +1,6 @@
 #include "cli/arguments.h"
 
+#include <algorithm>
 #include <charconv>
 #include <sstream>
 
@@ -71,6 +72,17 @@ std::filesystem::path Argumentos::CarpetaTrabajo() const {
     const auto carpeta = Valor("carpeta");
     return base::ResolverCarpetaTrabajo(carpeta ? std::optional<std::filesystem::path>(*carpeta)
                                                 : std::nullopt);
+}
+
+std::optional<double> NumeroDecimal(std::string texto) {
+    std::replace(texto.begin(), texto.end(), ',', '.');
+    try {
+        std::size_t fin = 0;
+        const double valor = std::stod(texto, &fin);
+        if (fin == texto.size()) return valor;
+    } catch (const std::exception&) {
+    }
+    return std::nullopt;
 }
 
 std::vector<std::string> SepararPorComas(const std::string& lista) {

@@ -51,6 +51,9 @@ class Argumentos {
     std::set<std::string, std::less<>> marcas_;
 };
 
+// Un número con decimales, con coma o con punto ("2,5", "2.5"); nada si el texto entero no lo es.
+std::optional<double> NumeroDecimal(std::string texto);
+
 // "a, b,c" da {"a", "b", "c"}, cada parte recortada.
 std::vector<std::string> SepararPorComas(const std::string& lista);
 

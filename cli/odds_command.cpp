@@ -1,6 +1,4 @@
 // probabilidades: la de cada premio para las columnas que se juegan de una Combinación.
-#include <algorithm>
-
 #include "cli/commands.h"
 #include "engine/combination_files.h"
 #include "engine/prize_odds.h"
@@ -16,14 +14,8 @@ constexpr std::string_view kUso =
 double ProbabilidadDelPleno(const Argumentos& a) {
     const auto texto = a.Valor("pleno");
     if (!texto) return engine::kPlenoUniforme;
-    std::string numero = *texto;
-    std::replace(numero.begin(), numero.end(), ',', '.');
-    try {
-        std::size_t fin = 0;
-        const double v = std::stod(numero, &fin);
-        if (fin == numero.size() && v >= 0 && v <= 100) return v / 100;
-    } catch (const std::exception&) {
-    }
+    const auto valor = NumeroDecimal(*texto);
+    if (valor && *valor >= 0 && *valor <= 100) return *valor / 100;
     throw ErrorDeUso{"--pleno es un tanto por ciento de 0 a 100: " + *texto};
 }
 

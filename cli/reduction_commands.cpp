@@ -53,14 +53,11 @@ std::optional<engine::OpcionesOptimizada> Optimizada(const Argumentos& a) {
     }
     engine::OpcionesOptimizada opciones;
     if (const auto segundos = a.Valor("segundos")) {
-        try {
-            std::size_t fin = 0;
-            opciones.segundos = std::stod(*segundos, &fin);
-            if (fin != segundos->size() || !(opciones.segundos > 0))
-                throw std::invalid_argument("");
-        } catch (const std::exception&) {
+        const auto valor = NumeroDecimal(*segundos);
+        if (!valor || !(*valor > 0)) {
             throw ErrorDeUso{"--segundos es un número mayor que 0: " + *segundos};
         }
+        opciones.segundos = *valor;
     }
     opciones.semilla = a.Semilla().value_or(opciones.semilla);
     return opciones;

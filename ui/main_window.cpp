@@ -861,7 +861,7 @@ void VentanaPrincipal::HistoricoCondiciones() {
                                              builders::GanadorasGuardadas(s_.carpetaTrabajo)),
             this));
     } catch (const base::Error& e) {
-        s_.dialogo.Mensaje(std::string("Error: ") + e.what(), base::Icono::Error);
+        Fallo(e);
     }
 }
 

@@ -183,11 +183,16 @@ void VentanaPrincipal::ArchivoJson() {
 }
 
 void VentanaPrincipal::ProbabilidadesJugadas() {
-    const bool reducida = comb_.jugada == "red";
-    const auto almacen = s_.carpetaTrabajo / (reducida ? engine::kRedTmp : engine::kCmbTmp);
-    AbrirVentana(new VentanaProbabilidades(reducida ? "reducida" : "condicionada",
-                                           engine::OrigenDeLasProbabilidades(comb_),
-                                           engine::ProbabilidadesDeArchivo(comb_, almacen), this));
+    try {
+        const auto jugada = builders::JugadaElegida(comb_);
+        const auto conjunto = builders::ConjuntoDe(comb_, jugada, s_.carpetaTrabajo);
+        AbrirVentana(new VentanaProbabilidades(
+            jugada == builders::Jugada::Reducida ? "reducida" : "condicionada",
+            engine::OrigenDeLasProbabilidades(comb_),
+            engine::ProbabilidadesDeArchivo(comb_, conjunto.almacen), this));
+    } catch (const base::Error& e) {
+        Fallo(e);
+    }
 }
 
 void VentanaPrincipal::RefrescarPaginaBoletos() {
